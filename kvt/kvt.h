@@ -1,0 +1,9 @@
+#ifndef KVT_KVT_H
+#define KVT_KVT_H
+
+// Everything kvt offers, in one include.
+
+#include <kvt/draw/rgba.h>
+#include <kvt/draw/pixel.h>
+
+#endif

@@ -1,0 +1,165 @@
+#include "surfaces.h"
+
+#include <cstring>
+#include <sstream>
+
+namespace kvt_test {
+
+const std::vector<FormatSpec> &AllFormats()
+{
+    static const std::vector<FormatSpec> formats = {
+        {"Index8", 8, 0, 0, 0, 0},
+        {"RGB565", 16, 0xF800, 0x07E0, 0x001F, 0},
+        {"RGB555", 16, 0x7C00, 0x03E0, 0x001F, 0},
+        {"RGB24", 24, 0xFF0000, 0x00FF00, 0x0000FF, 0},
+        {"BGR24", 24, 0x0000FF, 0x00FF00, 0xFF0000, 0},
+        {"XRGB32", 32, 0x00FF0000, 0x0000FF00, 0x000000FF, 0},
+        {"XBGR32", 32, 0x000000FF, 0x0000FF00, 0x00FF0000, 0},
+        {"RGBA32", 32, 0xFF000000, 0x00FF0000, 0x0000FF00, 0x000000FF},
+    };
+    return formats;
+}
+
+std::vector<FormatSpec> TrueColourFormats()
+{
+    std::vector<FormatSpec> out;
+    for (const FormatSpec &spec : AllFormats())
+        if (spec.bitsPerPixel > 8)
+            out.push_back(spec);
+    return out;
+}
+
+std::string FormatName(const FormatSpec &spec) { return spec.name; }
+
+void PrintTo(const FormatSpec &spec, std::ostream *out) { *out << spec.name; }
+
+// A 3-3-2 palette: every one of the 256 entries is used and distinct.
+static void SetFullPalette(SDL_Surface *surface)
+{
+    SDL_Color colours[256];
+    for (int i = 0; i < 256; ++i) {
+        colours[i].r = Uint8((i >> 5) * 255 / 7);
+        colours[i].g = Uint8(((i >> 2) & 7) * 255 / 7);
+        colours[i].b = Uint8((i & 3) * 255 / 3);
+        colours[i].unused = 0;
+    }
+    SDL_SetColors(surface, colours, 0, 256);
+}
+
+GuardedSurface::GuardedSurface(const FormatSpec &spec, int width, int height, int rowPadding)
+{
+    int bytes = spec.bitsPerPixel / 8;
+    rowBytes_ = width * bytes;
+    int pitch = rowBytes_ + rowPadding;
+    memory_.assign(size_t(kGuardBytes * 2 + pitch * height), kGuard);
+    surface_ = SDL_CreateRGBSurfaceFrom(memory_.data() + kGuardBytes, width, height,
+                                        spec.bitsPerPixel, pitch, spec.rmask, spec.gmask,
+                                        spec.bmask, spec.amask);
+    if (spec.bitsPerPixel == 8)
+        SetFullPalette(surface_);
+}
+
+GuardedSurface::~GuardedSurface() { SDL_FreeSurface(surface_); }
+
+bool GuardedSurface::GuardsIntact() const
+{
+    const Uint8 *base = memory_.data();
+    size_t pixelsEnd = kGuardBytes + size_t(surface_->pitch) * surface_->h;
+    for (size_t i = 0; i < memory_.size(); ++i) {
+        bool inPixels = i >= size_t(kGuardBytes) && i < pixelsEnd &&
+                        int((i - kGuardBytes) % surface_->pitch) < rowBytes_;
+        if (!inPixels && base[i] != kGuard)
+            return false;
+    }
+    return true;
+}
+
+void GuardedSurface::FillRandom(std::mt19937 &rng)
+{
+    std::uniform_int_distribution<int> byte(0, 255);
+    for (int y = 0; y < surface_->h; ++y) {
+        Uint8 *row = static_cast<Uint8 *>(surface_->pixels) + y * surface_->pitch;
+        for (int i = 0; i < rowBytes_; ++i)
+            row[i] = Uint8(byte(rng));
+    }
+}
+
+void GuardedSurface::FillColour(Uint8 r, Uint8 g, Uint8 b)
+{
+    Uint32 v = SDL_MapRGB(surface_->format, r, g, b);
+    int bytes = surface_->format->BytesPerPixel;
+    for (int y = 0; y < surface_->h; ++y) {
+        Uint8 *row = static_cast<Uint8 *>(surface_->pixels) + y * surface_->pitch;
+        for (int x = 0; x < surface_->w; ++x)
+            std::memcpy(row + x * bytes, &v, size_t(bytes)); // little-endian host
+    }
+}
+
+std::vector<Uint8> GuardedSurface::PixelBytes() const
+{
+    std::vector<Uint8> out;
+    out.reserve(size_t(rowBytes_) * surface_->h);
+    for (int y = 0; y < surface_->h; ++y) {
+        const Uint8 *row = static_cast<const Uint8 *>(surface_->pixels) + y * surface_->pitch;
+        out.insert(out.end(), row, row + rowBytes_);
+    }
+    return out;
+}
+
+Uint32 ReadValue(SDL_Surface *surface, int x, int y)
+{
+    int bytes = surface->format->BytesPerPixel;
+    const Uint8 *p = static_cast<const Uint8 *>(surface->pixels) + y * surface->pitch + x * bytes;
+    Uint32 v = 0;
+    for (int i = 0; i < bytes; ++i)
+        v |= Uint32(p[i]) << (8 * i);
+    return v;
+}
+
+KVT_RGBA ReadColour(SDL_Surface *surface, int x, int y)
+{
+    KVT_RGBA c = {0, 0, 0, 0};
+    SDL_GetRGB(ReadValue(surface, x, y), surface->format, &c.r, &c.g, &c.b);
+    return c;
+}
+
+static std::string DescribePixel(const char *what, int x, int y)
+{
+    std::ostringstream out;
+    out << what << " at (" << x << ", " << y << ")";
+    return out.str();
+}
+
+std::string ChangedOutside(const GuardedSurface &surface, const std::vector<Uint8> &before,
+                           SDL_Rect area)
+{
+    if (!surface.GuardsIntact())
+        return "a guard byte outside the pixel memory changed";
+    std::vector<Uint8> now = surface.PixelBytes();
+    SDL_Surface *s = surface.get();
+    int bytes = s->format->BytesPerPixel;
+    for (int y = 0; y < s->h; ++y)
+        for (int x = 0; x < s->w; ++x) {
+            bool inside = x >= area.x && x < area.x + area.w && y >= area.y && y < area.y + area.h;
+            size_t at = size_t(y) * s->w * bytes + size_t(x) * bytes;
+            if (!inside && std::memcmp(&now[at], &before[at], size_t(bytes)) != 0)
+                return DescribePixel("pixel outside the area changed", x, y);
+        }
+    return "";
+}
+
+std::string FirstDifference(const GuardedSurface &a, const GuardedSurface &b)
+{
+    std::vector<Uint8> left = a.PixelBytes(), right = b.PixelBytes();
+    int bytes = a.get()->format->BytesPerPixel;
+    for (size_t i = 0; i < left.size(); ++i)
+        if (left[i] != right[i]) {
+            int pixel = int(i) / bytes;
+            return DescribePixel("pixels differ", pixel % a.get()->w, pixel / a.get()->w);
+        }
+    if (!a.GuardsIntact() || !b.GuardsIntact())
+        return "a guard byte changed";
+    return "";
+}
+
+} // namespace kvt_test

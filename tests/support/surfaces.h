@@ -1,0 +1,78 @@
+#ifndef KVT_TESTS_SUPPORT_SURFACES_H
+#define KVT_TESTS_SUPPORT_SURFACES_H
+
+// Surfaces at every pixel format the library must handle, each placed in
+// a larger buffer so that a test can prove nothing was written outside the
+// surface: guard bytes before and after the pixel memory, and padding
+// bytes at the end of every row (pitch is wider than the pixels).
+
+#include <cstdint>
+#include <ostream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <SDL.h>
+
+#include <kvt/draw/rgba.h>
+
+namespace kvt_test {
+
+struct FormatSpec {
+    const char *name;
+    int bitsPerPixel;
+    Uint32 rmask, gmask, bmask, amask;
+};
+
+// 8 bpp with a full 256-colour palette; 16 bpp 5-6-5 and 5-5-5; 24 bpp in
+// both byte orders; 32 bpp in two channel orders plus one with alpha.
+const std::vector<FormatSpec> &AllFormats();
+// The true-colour subset (no palette).
+std::vector<FormatSpec> TrueColourFormats();
+
+// For INSTANTIATE_TEST_SUITE_P names, and for GoogleTest's printing.
+std::string FormatName(const FormatSpec &spec);
+void PrintTo(const FormatSpec &spec, std::ostream *out);
+
+class GuardedSurface {
+public:
+    GuardedSurface(const FormatSpec &spec, int width, int height, int rowPadding = 5);
+    ~GuardedSurface();
+    GuardedSurface(const GuardedSurface &) = delete;
+    GuardedSurface &operator=(const GuardedSurface &) = delete;
+
+    SDL_Surface *get() const { return surface_; }
+    operator SDL_Surface *() const { return surface_; }
+
+    // True when no guard byte and no row padding byte has changed.
+    bool GuardsIntact() const;
+    // Random bytes in every pixel (padding and guards untouched).
+    void FillRandom(std::mt19937 &rng);
+    // Every pixel set to one colour through SDL_MapRGB.
+    void FillColour(Uint8 r, Uint8 g, Uint8 b);
+    // Copy of the pixel bytes, row by row, without padding.
+    std::vector<Uint8> PixelBytes() const;
+
+private:
+    static constexpr Uint8 kGuard = 0xA5;
+    static constexpr int kGuardBytes = 64;
+    SDL_Surface *surface_;
+    std::vector<Uint8> memory_;
+    int rowBytes_;
+};
+
+// The colour at (x, y) as SDL splits it, and the raw pixel value.
+KVT_RGBA ReadColour(SDL_Surface *surface, int x, int y);
+Uint32 ReadValue(SDL_Surface *surface, int x, int y);
+
+// Describes the first pixel outside `area` whose bytes differ from
+// `before` (a PixelBytes() copy), or returns "" when there is none.
+std::string ChangedOutside(const GuardedSurface &surface, const std::vector<Uint8> &before,
+                           SDL_Rect area);
+// Describes the first pixel that differs between two surfaces of the same
+// format and size, or "" when they are byte for byte the same.
+std::string FirstDifference(const GuardedSurface &a, const GuardedSurface &b);
+
+} // namespace kvt_test
+
+#endif
