@@ -5,5 +5,8 @@
 
 #include <kvt/draw/rgba.h>
 #include <kvt/draw/pixel.h>
+#include <kvt/draw/lines.h>
+#include <kvt/draw/shade.h>
+#include <kvt/ui/core/theme.h>
 
 #endif

@@ -137,6 +137,19 @@ inline Uint8 BlendChannel(Uint32 colour, Uint32 old, Uint32 alpha)
     return Uint8((colour * (255 - alpha) + old * alpha) >> 8);
 }
 
+// Blends r, g, b over the pixel at p by the accessor's depth: the old value
+// is split, each channel blended, and the result stored as blended
+// channels (mapped at 1, 2 and 4 bytes, written as bytes at 3).
+template <class Pixel>
+inline void BlendPixel(const Pixel &pixel, Uint8 *p, Uint8 r, Uint8 g, Uint8 b, Uint8 alpha,
+                       const ColourForm &form)
+{
+    Uint8 oldR, oldG, oldB;
+    form.Split(pixel.Read(p), &oldR, &oldG, &oldB);
+    pixel.StoreRGB(p, BlendChannel(r, oldR, alpha), BlendChannel(g, oldG, alpha),
+                   BlendChannel(b, oldB, alpha), form);
+}
+
 } // namespace kvt
 
 #endif

@@ -28,12 +28,8 @@ inline void KVT_SetPixelAlpha(SDL_Surface *surface, Sint16 x, Sint16 y, Uint8 r,
         return;
     kvt::ColourForm form(surface->format);
     Uint8 *p = kvt::PixelAddress(surface, x, y);
-    kvt::WithDepth(surface->format, [&](auto pixel) {
-        Uint8 oldR, oldG, oldB;
-        form.Split(pixel.Read(p), &oldR, &oldG, &oldB);
-        pixel.StoreRGB(p, kvt::BlendChannel(r, oldR, a), kvt::BlendChannel(g, oldG, a),
-                       kvt::BlendChannel(b, oldB, a), form);
-    });
+    kvt::WithDepth(surface->format,
+                   [&](auto pixel) { kvt::BlendPixel(pixel, p, r, g, b, a, form); });
 }
 
 // Outside the surface the three outputs keep what they held.
