@@ -8,5 +8,7 @@
 #include <kvt/draw/lines.h>
 #include <kvt/draw/shade.h>
 #include <kvt/ui/core/theme.h>
+#include <kvt/math/point.h>
+#include <kvt/math/matrix.h>
 
 #endif
