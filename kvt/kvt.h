@@ -7,6 +7,8 @@
 #include <kvt/draw/pixel.h>
 #include <kvt/draw/lines.h>
 #include <kvt/draw/shade.h>
+#include <kvt/sprite/sprite.h>
+#include <kvt/sprite/text.h>
 #include <kvt/ui/core/theme.h>
 #include <kvt/math/point.h>
 #include <kvt/math/matrix.h>

@@ -1,0 +1,84 @@
+#include <algorithm>
+
+#include <kvt/draw/colour.h>
+#include <kvt/draw/depth.h>
+#include <kvt/draw/pixel.h>
+#include <kvt/sprite/internal/decode_paths.h>
+
+namespace kvt {
+
+namespace {
+
+// Neighbouring pixels of a sprite mostly share their colour; remembering
+// the last one spares the mapping, which on a palette is a search.
+class LastColour {
+public:
+    explicit LastColour(const ColourForm &form)
+        : form_(form), rgb_(0), value_(form.Map(0, 0, 0))
+    {
+    }
+    Uint32 Map(Uint32 word)
+    {
+        const Uint32 rgb = word & 0xFFFFFFu;
+        if (rgb != rgb_) {
+            rgb_ = rgb;
+            value_ = form_.Map(RedOf(word), GreenOf(word), BlueOf(word));
+        }
+        return value_;
+    }
+
+private:
+    const ColourForm &form_;
+    Uint32 rgb_;
+    Uint32 value_;
+};
+
+} // namespace
+
+void DecodeFramePlain(SDL_Surface *surface, const FrameRuns &runs)
+{
+    for (int y = 0; y < runs.height; ++y) {
+        const RowSpan &span = runs.rows[y];
+        const Sint16 row = Sint16(y);
+        WalkRow(
+            runs.words + span.first, span.count, runs.width,
+            [&](int x, int n) {
+                for (int k = 0; k < n; ++k)
+                    KVT_SetPixel(surface, Sint16(x + k), row, 255, 0, 255);
+            },
+            [&](int x, const Uint32 *pixels, int n) {
+                for (int k = 0; k < n; ++k)
+                    KVT_SetPixel(surface, Sint16(x + k), row, RedOf(pixels[k]),
+                                 GreenOf(pixels[k]), BlueOf(pixels[k]));
+            });
+    }
+}
+
+void DecodeFrame(SDL_Surface *surface, const FrameRuns &runs)
+{
+    const ColourForm form(surface->format);
+    const int width = std::min(runs.width, surface->w);
+    const int height = std::min(runs.height, surface->h);
+    WithDepth(surface->format, [&](auto pixel) {
+        constexpr int kBytes = decltype(pixel)::kBytes;
+        const Uint32 key = form.Map(255, 0, 255);
+        LastColour colour(form);
+        for (int y = 0; y < height; ++y) {
+            const RowSpan &span = runs.rows[y];
+            Uint8 *const row = PixelAddress(surface, 0, y);
+            WalkRow(
+                runs.words + span.first, span.count, width,
+                [&](int x, int n) {
+                    for (Uint8 *p = row + x * kBytes, *end = p + n * kBytes; p != end; p += kBytes)
+                        pixel.Store(p, key);
+                },
+                [&](int x, const Uint32 *pixels, int n) {
+                    Uint8 *p = row + x * kBytes;
+                    for (int k = 0; k < n; ++k, p += kBytes)
+                        pixel.Store(p, colour.Map(pixels[k]));
+                });
+        }
+    });
+}
+
+} // namespace kvt

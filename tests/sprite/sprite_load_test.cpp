@@ -1,0 +1,294 @@
+#include <cstring>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <kvt/sprite/internal/decode_paths.h>
+#include <kvt/sprite/sprite.h>
+
+#include "support/sprite_file.h"
+#include "support/surfaces.h"
+#include "support/temp_file.h"
+
+using kvt_test::FormatSpec;
+using kvt_test::GuardedSurface;
+using kvt_test::kClearPixel;
+using kvt_test::SpriteRecord;
+
+namespace {
+
+// One frame of 3 x 2 pixels anchored at (1, 1): a clear pixel, red and
+// green on top; blue, white and black below.
+const std::vector<Uint8> kExample = {
+    0x01, 0x00, 0x00, 0x00, // frameCount 1
+    0x24, 0x00, 0x00, 0x00, // blockSize 36
+    0x03, 0x00, 0x00, 0x00, // width 3
+    0x02, 0x00, 0x00, 0x00, // height 2
+    0x00, 0x00, 0x00, 0x00, // tag 0
+    0x01, 0x00, 0x00, 0x00, // hotX 1
+    0x01, 0x00, 0x00, 0x00, // hotY 1
+    0x04, 0x00, 0x00, 0x00, // rowWords 4
+    0xFF, 0xFF, 0xFF, 0xFF, // run -1
+    0x02, 0x00, 0x00, 0x00, // run 2
+    0x00, 0x00, 0xFF, 0x00, // red
+    0x00, 0xFF, 0x00, 0x00, // green
+    0x04, 0x00, 0x00, 0x00, // rowWords 4
+    0x03, 0x00, 0x00, 0x00, // run 3
+    0xFF, 0x00, 0x00, 0x00, // blue
+    0xFF, 0xFF, 0xFF, 0x00, // white
+    0x00, 0x00, 0x00, 0x00, // black
+};
+const std::vector<Uint32> kExamplePixels = {kClearPixel, 0xFF0000, 0x00FF00,
+                                            0x0000FF,    0xFFFFFF, 0x000000};
+
+bool IsEmpty(const KVT_Sprite &s) { return s.frames == nullptr && s.nbFrames == 0; }
+
+// "" when the frame is `pixels` mapped through `format`, with the key
+// where a pixel is clear; otherwise the first pixel that is not.
+std::string FrameDifference(SDL_Surface *frame, const SDL_PixelFormat *format, int width,
+                            const std::vector<Uint32> &pixels)
+{
+    for (size_t i = 0; i < pixels.size(); ++i) {
+        const Uint32 c = pixels[i] == kClearPixel ? 0xFF00FF : pixels[i];
+        const Uint32 want = SDL_MapRGB(format, Uint8(c >> 16), Uint8(c >> 8), Uint8(c));
+        const int x = int(i) % width, y = int(i) / width;
+        if (kvt_test::ReadValue(frame, x, y) != want) {
+            std::ostringstream out;
+            out << "pixel (" << x << ", " << y << ") is 0x" << std::hex
+                << kvt_test::ReadValue(frame, x, y) << ", expected 0x" << want;
+            return out.str();
+        }
+    }
+    return "";
+}
+
+class SpriteLoadFormats : public ::testing::TestWithParam<FormatSpec> {
+protected:
+    GuardedSurface formatHolder{GetParam(), 1, 1};
+    const SDL_PixelFormat *format = formatHolder.get()->format;
+    KVT_Sprite sprite;
+    void TearDown() override { sprite.FreeFrames(); }
+};
+
+TEST_P(SpriteLoadFormats, ExampleFileBuildsOneKeyedFrameInTheTargetFormat)
+{
+    ASSERT_TRUE(kvt_test::LoadSpriteBytes(&sprite, kExample, format));
+    ASSERT_EQ(1u, sprite.GetNbFrames());
+    const KVT_SpriteFrame &frame = sprite.frames[0];
+    SDL_Surface *s = sprite.GetFrameSurface(0);
+    EXPECT_EQ(std::vector<int>({3, 2, 0, 1, 1}),
+              std::vector<int>({sprite.GetW(0), s->h, frame.tag, frame.hotX, frame.hotY}))
+        << "width, height, tag, hotX, hotY";
+    EXPECT_EQ(std::vector<Uint32>({format->BitsPerPixel, format->Rmask, format->Gmask,
+                                   format->Bmask, format->Amask}),
+              std::vector<Uint32>({s->format->BitsPerPixel, s->format->Rmask, s->format->Gmask,
+                                   s->format->Bmask, s->format->Amask}))
+        << "depth and masks must be the target's";
+    EXPECT_EQ(Uint32(SDL_SRCCOLORKEY), s->flags & (SDL_SRCCOLORKEY | SDL_RLEACCELOK));
+    EXPECT_EQ(SDL_MapRGB(format, 255, 0, 255), s->format->colorkey);
+    if (format->palette != nullptr) {
+        EXPECT_EQ(0, std::memcmp(format->palette->colors, s->format->palette->colors,
+                                 256 * sizeof(SDL_Color)))
+            << "an 8-bit frame must carry the target's palette";
+    }
+    EXPECT_EQ("", FrameDifference(s, format, 3, kExamplePixels));
+}
+
+// Run word 0, a fourth byte in pixel words, a run cut at the edge with
+// words left over, a literal key colour, the most negative run, and
+// anchor and tag words whose high halves must not count.
+TEST_P(SpriteLoadFormats, RunEdgeCasesDecodeByTheRowRules)
+{
+    const SpriteRecord record = {0, 4, 4, 0x12345678, 0xABCD0002, 0x0000FFFF,
+                                 {{0, 2, 0xAB102030, 0x01FA04FB, Uint32(-2)},
+                                  {6, 1, 2, 3, 4, 5, 6, 9, 9},
+                                  {Uint32(-1), 1, 0xFFFF00FF, 1, 0x00808080, Uint32(-1)},
+                                  {0x80000000u}}};
+    ASSERT_TRUE(kvt_test::LoadSpriteBytes(&sprite, kvt_test::SpriteFileBytes({record}), format));
+    const std::vector<Uint32> want = {0x102030,    0xFA04FB,    kClearPixel, kClearPixel,
+                                      1,           2,           3,           4,
+                                      kClearPixel, 0xFF00FF,    0x808080,    kClearPixel,
+                                      kClearPixel, kClearPixel, kClearPixel, kClearPixel};
+    EXPECT_EQ("", FrameDifference(sprite.GetFrameSurface(0), format, 4, want));
+    const KVT_SpriteFrame &frame = sprite.frames[0];
+    EXPECT_EQ(std::vector<int>({0x5678, 2, -1}), std::vector<int>({frame.tag, frame.hotX, frame.hotY}));
+}
+
+// Random rows (short, overlong, with spare words, words running out) on
+// random surfaces, some smaller than the frame: the row-pointer decoder
+// must write exactly the bytes of the per-pixel one, and nothing outside.
+TEST_P(SpriteLoadFormats, FastDecodeEqualsPlainDecode)
+{
+    std::mt19937 rng(77);
+    for (int trial = 0; trial < 60; ++trial) {
+        const int w = 1 + int(rng() % 40), h = 1 + int(rng() % 6);
+        std::vector<Uint32> words;
+        std::vector<kvt::RowSpan> rows;
+        for (int y = 0; y < h; ++y) {
+            const size_t first = words.size();
+            for (int runs = int(rng() % 8); runs > 0; --runs) {
+                const int n = int(rng() % 12) - 4;
+                words.push_back(Uint32(n));
+                for (int k = 0; k < n; ++k)
+                    words.push_back(rng() % 4 == 0 ? 0x00FF00FF : Uint32(rng()));
+            }
+            if (words.size() > first && rng() % 2 == 0)
+                words.pop_back(); // a run that lacks a word, or a spare word gone
+            rows.push_back({first, words.size() - first});
+        }
+        const kvt::FrameRuns runs = {w, h, words.data(), rows.data()};
+        const int sw = w - int(rng() % 3) % w, sh = h - int(rng() % 2) % h;
+        GuardedSurface want(GetParam(), sw, sh), got(GetParam(), sw, sh);
+        const unsigned seed = unsigned(rng());
+        std::mt19937 fillA(seed), fillB(seed);
+        want.FillRandom(fillA);
+        got.FillRandom(fillB);
+        kvt::DecodeFramePlain(want, runs);
+        kvt::DecodeFrame(got, runs);
+        ASSERT_EQ("", kvt_test::FirstDifference(want, got))
+            << w << "x" << h << " frame on " << sw << "x" << sh << ", trial " << trial;
+        ASSERT_TRUE(got.GuardsIntact());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFormats, SpriteLoadFormats, ::testing::ValuesIn(kvt_test::AllFormats()),
+                         [](const auto &info) { return kvt_test::FormatName(info.param); });
+
+class SpriteFile : public ::testing::Test {
+protected:
+    GuardedSurface formatHolder{kvt_test::AllFormats()[5], 1, 1};
+    const SDL_PixelFormat *format = formatHolder.get()->format;
+};
+
+TEST_F(SpriteFile, UnopenableFileFailsWithTheSpriteUntouched)
+{
+    KVT_SpriteFrame frame = {};
+    KVT_Sprite sprite;
+    sprite.frames = &frame;
+    sprite.nbFrames = 7;
+    EXPECT_FALSE(sprite.Load("/nonexistent-folder/sprite.spr", format));
+    EXPECT_EQ(&frame, sprite.frames);
+    EXPECT_EQ(7u, sprite.nbFrames);
+}
+
+TEST_F(SpriteFile, ZeroFramesLoadAsAnEmptySpriteThatDisplaysNothing)
+{
+    KVT_Sprite sprite;
+    ASSERT_TRUE(kvt_test::LoadSpriteBytes(&sprite, {0, 0, 0, 0}, format));
+    EXPECT_TRUE(IsEmpty(sprite));
+    EXPECT_FALSE(sprite.Display(formatHolder, 0, 0, 0));
+    EXPECT_FALSE(sprite.DisplayClipped(formatHolder, 0, 0, 1, 1, 0));
+    EXPECT_FALSE(sprite.DisplayAlpha(formatHolder, 0, 0, 0, 255));
+    sprite.FreeFrames();
+    sprite.FreeFrames();
+    EXPECT_TRUE(IsEmpty(sprite));
+}
+
+// Every cut of the example file fails, even on a sprite that held frames,
+// and leaves it empty; bytes after the last frame are not read.
+TEST_F(SpriteFile, CutFilesFailAndLeaveTheSpriteEmpty)
+{
+    KVT_Sprite loaded;
+    ASSERT_TRUE(kvt_test::LoadSpriteBytes(&loaded, kExample, format));
+    for (size_t length = 0; length < kExample.size(); ++length) {
+        KVT_Sprite sprite = loaded;
+        const std::vector<Uint8> cut(kExample.begin(), kExample.begin() + long(length));
+        EXPECT_FALSE(kvt_test::LoadSpriteBytes(&sprite, cut, format)) << length << " bytes";
+        EXPECT_TRUE(IsEmpty(sprite)) << length << " bytes";
+    }
+    std::vector<Uint8> longer = kExample;
+    longer.insert(longer.end(), {0xFF, 0xFF, 0xFF});
+    KVT_Sprite sprite;
+    EXPECT_TRUE(kvt_test::LoadSpriteBytes(&sprite, longer, format));
+    sprite.FreeFrames();
+    loaded.FreeFrames();
+}
+
+struct DamageCase {
+    const char *name;
+    Uint32 frameCount;
+    std::vector<SpriteRecord> records;
+    bool loads;
+};
+
+SpriteRecord Example(Uint32 blockSize, Sint32 width, Sint32 height,
+                     std::vector<kvt_test::SpriteRow> rows = {{Uint32(-1), 2, 0xFF0000, 0xFF00},
+                                                              {3, 0xFF, 0xFFFFFF, 0}})
+{
+    return {blockSize, width, height, 0, 1, 1, rows};
+}
+
+TEST_F(SpriteFile, DamagedRecordsFailAndLeaveTheSpriteEmpty)
+{
+    const std::vector<DamageCase> cases = {
+        {"least block size", 1, {Example(36, 3, 2)}, true},
+        {"block size one short", 1, {Example(35, 3, 2)}, false},
+        {"largest block size", 1, {Example(0xFFFFFFFF, 3, 2)}, true},
+        {"negative width", 1, {Example(0, -1, 2)}, false},
+        {"negative height", 1, {Example(0, 3, -1)}, false},
+        {"zero width with rows", 1, {Example(0, 0, 2)}, false},
+        {"zero width and height", 1, {Example(0, 0, 0, {})}, true},
+        {"zero height", 1, {Example(0, 3, 0, {})}, true},
+        {"width over 16384", 1, {Example(0, 16385, 2)}, false},
+        {"height over 16384", 1, {Example(0, 3, 16385)}, false},
+        {"a surface SDL refuses, after a good frame", 2,
+         {Example(0, 3, 2), Example(0, 16384, 1, {{Uint32(-16384)}})}, false},
+        {"a row short of its literal pixels", 1, {Example(0, 3, 2, {{Uint32(-1), 2, 0xFF}, {Uint32(-3)}})}, false},
+        {"a run past the edge short of its words", 1, {Example(0, 3, 2, {{5, 1, 2, 3}, {Uint32(-3)}})}, false},
+        {"a row without words", 1, {Example(0, 3, 2, {{}, {Uint32(-3)}})}, false},
+        {"the most negative run", 1, {Example(0, 3, 2, {{0x80000000u}, {Uint32(-3)}})}, true},
+        {"more frames than the file holds", 2, {Example(36, 3, 2)}, false},
+        {"the largest frame count", 0xFFFFFFFF, {Example(36, 3, 2)}, false},
+    };
+    for (const DamageCase &c : cases) {
+        KVT_Sprite sprite;
+        const std::vector<Uint8> file = kvt_test::SpriteFileBytes(c.frameCount, c.records);
+        EXPECT_EQ(c.loads, kvt_test::LoadSpriteBytes(&sprite, file, format)) << c.name;
+        EXPECT_EQ(c.loads ? c.frameCount : 0u, sprite.GetNbFrames()) << c.name;
+        EXPECT_EQ(c.loads, sprite.frames != nullptr) << c.name;
+        sprite.FreeFrames();
+    }
+}
+
+// Whatever bytes a file holds, a load gives frames that all have a surface
+// or fails with the sprite empty; under the sanitizers this also shows
+// that the loader stays inside its buffers.
+TEST_F(SpriteFile, RandomDamageNeverHandsOutAFrameWithoutASurface)
+{
+    std::vector<SpriteRecord> records;
+    for (const kvt_test::SpritePicture &glyph : kvt_test::TestFontGlyphs())
+        if (records.size() < 6)
+            records.push_back(kvt_test::PackPicture(glyph));
+    const std::vector<Uint8> file = kvt_test::SpriteFileBytes(records);
+    std::mt19937 rng(11);
+    for (int trial = 0; trial < 300; ++trial) {
+        std::vector<Uint8> damaged = file;
+        for (int k = 1 + int(rng() % 4); k > 0; --k)
+            damaged[rng() % damaged.size()] = Uint8(rng());
+        if (rng() % 4 == 0)
+            damaged.resize(rng() % damaged.size());
+        KVT_Sprite sprite;
+        if (kvt_test::LoadSpriteBytes(&sprite, damaged, format)) {
+            for (Uint32 i = 0; i < sprite.nbFrames; ++i)
+                ASSERT_NE(nullptr, sprite.frames[i].surface) << "trial " << trial;
+        } else {
+            ASSERT_TRUE(IsEmpty(sprite)) << "trial " << trial;
+        }
+        sprite.FreeFrames();
+    }
+}
+
+TEST_F(SpriteFile, TargetsWithPixelsSmallerThanAByteAreRefused)
+{
+    SDL_Surface *oneBit = SDL_CreateRGBSurface(0, 8, 1, 1, 0, 0, 0, 0);
+    ASSERT_NE(nullptr, oneBit);
+    KVT_Sprite sprite;
+    EXPECT_FALSE(kvt_test::LoadSpriteBytes(&sprite, kExample, oneBit->format));
+    EXPECT_TRUE(IsEmpty(sprite));
+    SDL_FreeSurface(oneBit);
+}
+
+} // namespace
