@@ -5,6 +5,7 @@
 
 #include <kvt/draw/rgba.h>
 #include <kvt/draw/pixel.h>
+#include <kvt/draw/double_blit.h>
 #include <kvt/draw/lines.h>
 #include <kvt/draw/shade.h>
 #include <kvt/sprite/sprite.h>

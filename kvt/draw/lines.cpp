@@ -4,6 +4,7 @@
 
 #include <kvt/draw/depth.h>
 
+#include <kvt/draw/internal/byte_channels.h>
 #include <kvt/draw/internal/line_paths.h>
 #include <kvt/draw/internal/span.h>
 
@@ -29,6 +30,62 @@ void StoreColumn(const Pixel &pixel, Uint8 *p, int count, int pitch, Uint32 valu
     for (int i = 0; i < count; ++i, p += pitch)
         pixel.Store(p, value);
 }
+
+// The surface's pixel memory and bounds copied into values, so that a loop
+// of plots keeps them in registers instead of reading the surface again
+// after every store.
+class Canvas {
+public:
+    explicit Canvas(const SDL_Surface *surface)
+        : pixels_(static_cast<Uint8 *>(surface->pixels)), pitch_(surface->pitch),
+          w_(surface->w), h_(surface->h)
+    {
+    }
+
+    // The address of a plot narrowed to 16 bits, or null when it falls off
+    // the surface.
+    Uint8 *At(int x, int y, int bytes) const
+    {
+        int sx = Narrow16(x), sy = Narrow16(y);
+        if (sx < 0 || sy < 0 || sx >= w_ || sy >= h_)
+            return nullptr;
+        return pixels_ + sy * pitch_ + sx * bytes;
+    }
+
+private:
+    Uint8 *pixels_;
+    int pitch_, w_, h_;
+};
+
+// The blend of one colour over pixel values whose channels are whole
+// bytes: each channel byte becomes (c * (255 - a) + d * a) >> 8, written
+// as (c * 255 + (d - c) * a) >> 8 to need one product, and the other bits
+// become Amask, which is what splitting, blending and mapping give.
+class ByteBlend {
+public:
+    ByteBlend(const ByteChannels &bytes, KVT_RGBA colour)
+        : rShift_(bytes.red), gShift_(bytes.green), bShift_(bytes.blue), r_(colour.r),
+          g_(colour.g), b_(colour.b), amask_(bytes.amask)
+    {
+    }
+
+    Uint32 Apply(Uint32 old, Uint8 a) const
+    {
+        return amask_ | Channel(r_, old >> rShift_, a) << rShift_ |
+               Channel(g_, old >> gShift_, a) << gShift_ | Channel(b_, old >> bShift_, a) << bShift_;
+    }
+
+private:
+    static Uint32 Channel(int c, Uint32 old, int a)
+    {
+        int d = int(old & 0xFF);
+        return Uint32((c * 255 + (d - c) * a) >> 8);
+    }
+
+    int rShift_, gShift_, bShift_;
+    int r_, g_, b_;
+    Uint32 amask_;
+};
 
 } // namespace
 } // namespace kvt
@@ -63,16 +120,27 @@ void KVT_Line(SDL_Surface *surface, int x1, int y1, int x2, int y2, KVT_RGBA col
     kvt::LineWalk walk;
     if (!kvt::PrepareLine(surface, x1, y1, x2, y2, colour, &walk))
         return;
-    // The same blend as KVT_SetPixelAlpha, with the colour form and the
+    // The same blend as KVT_SetPixelAlpha, with the format examined and the
     // depth chosen once for the whole line instead of at every plot.
+    const kvt::Canvas canvas(surface);
+    kvt::ByteChannels bytes;
+    if (kvt::FindByteChannels(surface->format, &bytes)) {
+        const kvt::ByteBlend blend(bytes, colour);
+        kvt::WithDepth(surface->format, [&](auto pixel) {
+            walk.Run([=](int x, int y, Uint8 a) {
+                Uint8 *p = canvas.At(x, y, pixel.kBytes);
+                if (p != nullptr)
+                    pixel.Store(p, blend.Apply(pixel.Read(p), a));
+            });
+        });
+        return;
+    }
     const kvt::ColourForm form(surface->format);
     kvt::WithDepth(surface->format, [&](auto pixel) {
         walk.Run([&](int x, int y, Uint8 a) {
-            Sint16 sx = kvt::Narrow16(x), sy = kvt::Narrow16(y);
-            if (!kvt::IsOnSurface(surface, sx, sy))
-                return;
-            kvt::BlendPixel(pixel, kvt::PixelAddress(surface, sx, sy), colour.r, colour.g,
-                            colour.b, a, form);
+            Uint8 *p = canvas.At(x, y, pixel.kBytes);
+            if (p != nullptr)
+                kvt::BlendPixel(pixel, p, colour.r, colour.g, colour.b, a, form);
         });
     });
 }

@@ -1,5 +1,7 @@
 #include <kvt/draw/shade.h>
 
+#include <cstdint>
+
 #include <kvt/draw/colour.h>
 #include <kvt/draw/depth.h>
 
@@ -51,56 +53,76 @@ void RampPlain(SDL_Surface *surface, const ShadeRun &run, KVT_RGBA first, KVT_RG
     });
 }
 
-// One channel of the ramp, stepped without dividing. The numerator
-// first * (n - i) + last * i moves by last - first from one pixel to the
-// next; it is kept as quotient and remainder of n, with the step split the
-// same way (floored, so the remainder stays in [0, n)). Since the
-// numerator is never negative, the quotient is exactly the truncating
-// division of the definition.
+// One channel of the ramp without a division per pixel. The numerator
+// N(i) = first * n + (last - first) * i stays below 2^23 and is never
+// negative, and n is below 2^15; for such numbers the product with the
+// reciprocal M = ceil(2^40 / n), shifted down by 40, is exactly the
+// truncating division by n (M's excess adds less than 2^-17 to a quotient
+// whose fraction is at most 1 - 1/n). N(i) * M itself is then stepped by
+// adding (last - first) * M, so the loop neither divides nor multiplies;
+// unsigned arithmetic keeps the sums exact, as each true N(i) * M lies in
+// [0, 2^63).
 class RampChannel {
 public:
-    RampChannel(Uint8 first, Uint8 last, int n) : value_(first), rest_(0), n_(n)
+    RampChannel(Uint8 first, Uint8 last, Uint32 n, uint64_t reciprocal)
+        : scaled_(uint64_t(first) * n * reciprocal),
+          step_(uint64_t(int64_t(int(last) - int(first)) * int64_t(reciprocal)))
     {
-        int delta = int(last) - int(first);
-        stepValue_ = delta / n;
-        stepRest_ = delta % n;
-        if (stepRest_ < 0) {
-            stepRest_ += n;
-            --stepValue_;
-        }
     }
 
-    // The current channel value; then moves on to the next pixel.
-    Uint8 Next()
+    // The current value; then moves on to the next pixel.
+    Uint32 Next()
     {
-        Uint8 current = Uint8(value_);
-        value_ += stepValue_;
-        rest_ += stepRest_;
-        if (rest_ >= n_) {
-            rest_ -= n_;
-            ++value_;
-        }
-        return current;
+        Uint32 value = Uint32(scaled_ >> 40);
+        scaled_ += step_;
+        return value;
     }
 
 private:
-    int value_, rest_, n_;
-    int stepValue_, stepRest_;
+    uint64_t scaled_;
+    uint64_t step_;
 };
 
-void RampStepped(SDL_Surface *surface, const ShadeRun &run, KVT_RGBA first, KVT_RGBA last)
+struct Ramp {
+    RampChannel r, g, b;
+};
+
+// Channels of eight bits are placed by a multiplication rather than a
+// shift by a variable count, which the loop can keep in registers.
+bool HasWholeChannels(const ColourForm &form)
+{
+    return form.Direct() && form.Red().loss == 0 && form.Green().loss == 0 &&
+           form.Blue().loss == 0;
+}
+
+template <class Pixel>
+void StoreRamp(const Pixel &pixel, const ShadeRun &run, Ramp ramp, const ColourForm &form)
+{
+    Uint8 *p = run.start;
+    const int count = run.count, step = run.step;
+    if (HasWholeChannels(form)) {
+        const Uint32 red = 1u << form.Red().shift, green = 1u << form.Green().shift;
+        const Uint32 blue = 1u << form.Blue().shift, amask = form.Format()->Amask;
+        for (int i = 0; i < count; ++i, p += step)
+            pixel.Store(p, (ramp.r.Next() * red + ramp.g.Next() * green + ramp.b.Next() * blue) |
+                               amask);
+        return;
+    }
+    for (int i = 0; i < count; ++i, p += step) {
+        Uint8 r = Uint8(ramp.r.Next()), g = Uint8(ramp.g.Next()), b = Uint8(ramp.b.Next());
+        pixel.Store(p, form.Map(r, g, b));
+    }
+}
+
+void RampFast(SDL_Surface *surface, const ShadeRun &run, KVT_RGBA first, KVT_RGBA last)
 {
     const ColourForm form(surface->format);
-    WithDepth(surface->format, [&](auto pixel) {
-        RampChannel r(first.r, last.r, run.count);
-        RampChannel g(first.g, last.g, run.count);
-        RampChannel b(first.b, last.b, run.count);
-        Uint8 *p = run.start;
-        for (int i = 0; i < run.count; ++i, p += run.step) {
-            Uint8 red = r.Next(), green = g.Next(), blue = b.Next();
-            pixel.Store(p, form.Map(red, green, blue));
-        }
-    });
+    const Uint32 n = Uint32(run.count);
+    const uint64_t reciprocal = ((uint64_t(1) << 40) + n - 1) / n;
+    const Ramp ramp = {RampChannel(first.r, last.r, n, reciprocal),
+                       RampChannel(first.g, last.g, n, reciprocal),
+                       RampChannel(first.b, last.b, n, reciprocal)};
+    WithDepth(surface->format, [&](auto pixel) { StoreRamp(pixel, run, ramp, form); });
 }
 
 } // namespace
@@ -128,7 +150,7 @@ void KVT_HorzLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, 
 {
     kvt::ShadeRun run;
     if (kvt::ClipHorz(surface, x, y, length, &run))
-        kvt::RampStepped(surface, run, first, last);
+        kvt::RampFast(surface, run, first, last);
 }
 
 void KVT_VertLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, KVT_RGBA first,
@@ -136,7 +158,7 @@ void KVT_VertLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, 
 {
     kvt::ShadeRun run;
     if (kvt::ClipVert(surface, x, y, length, &run))
-        kvt::RampStepped(surface, run, first, last);
+        kvt::RampFast(surface, run, first, last);
 }
 
 void KVT_RectShade(SDL_Surface *surface, int x, int y, int width, int height, KVT_RGBA first,

@@ -101,7 +101,7 @@ TEST_P(ShadeTest, RectShadeDrawsFourRampsAndLeavesTheInside)
     }
 }
 
-// The stepped ramp against the divided one, on random lines of every
+// The fast ramp against the divided one, on random lines of every
 // sign and position, at widths where the ramp gets long.
 TEST_P(ShadeTest, SteppedRampMatchesDividedRamp)
 {

@@ -29,6 +29,16 @@ std::vector<FormatSpec> TrueColourFormats()
     return out;
 }
 
+const std::vector<FormatSpec> &MoreFormats()
+{
+    static const std::vector<FormatSpec> formats = {
+        {"RGBA4444", 16, 0xF000, 0x0F00, 0x00F0, 0x000F},
+        {"ARGB32", 32, 0x00FF0000, 0x0000FF00, 0x000000FF, 0xFF000000},
+        {"RGB666in32", 32, 0x3F000, 0x00FC0, 0x0003F, 0},
+    };
+    return formats;
+}
+
 std::string FormatName(const FormatSpec &spec) { return spec.name; }
 
 void PrintTo(const FormatSpec &spec, std::ostream *out) { *out << spec.name; }

@@ -29,6 +29,9 @@ struct FormatSpec {
 const std::vector<FormatSpec> &AllFormats();
 // The true-colour subset (no palette).
 std::vector<FormatSpec> TrueColourFormats();
+// Rarer formats that the fast paths must still get right: 4-4-4-4 with
+// alpha, alpha in the top byte of 32 bits, 6-6-6 channels in 32 bits.
+const std::vector<FormatSpec> &MoreFormats();
 
 // For INSTANTIATE_TEST_SUITE_P names, and for GoogleTest's printing.
 std::string FormatName(const FormatSpec &spec);

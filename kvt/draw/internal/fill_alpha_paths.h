@@ -2,19 +2,97 @@
 #define KVT_DRAW_INTERNAL_FILL_ALPHA_PATHS_H
 
 // The ways of doing a translucent fill on an area already cut to the
-// surface. KVT_FillRectAlpha picks the fastest one that applies; tests and
-// benchmarks call each one directly to prove them equal to the plain one.
+// surface and not empty. KVT_FillRectAlpha picks the fastest one that
+// applies; tests and benchmarks call each one directly to prove them equal
+// to the plain one. The x86 vector forms live in fill_alpha_sse2.cpp and
+// fill_alpha_avx2.cpp; every other processor uses the portable ones.
 
 #include <SDL.h>
 
+#include <kvt/draw/depth.h>
 #include <kvt/draw/internal/area.h>
 #include <kvt/draw/rgba.h>
 
 namespace kvt {
 
-// The definition: per pixel, split the old value, blend, store.
+// The weights of one fill, worked out once: `a` weighs the old channel,
+// and each product is the colour's channel times 255 - a.
+struct FillBlend {
+    explicit FillBlend(KVT_RGBA colour)
+        : a(colour.a), red(colour.r * (255u - colour.a)), green(colour.g * (255u - colour.a)),
+          blue(colour.b * (255u - colour.a))
+    {
+    }
+    Uint8 Channel(Uint32 old, Uint32 product) const { return Uint8((old * a + product) >> 8); }
+
+    Uint32 a, red, green, blue;
+};
+
+// Blends `count` pixels from `p` on: split each through `form`, blend,
+// store by the depth table. With ColourForm::ThroughSdl this is the
+// definition itself; with an inline form it is the portable fast path.
+template <class Pixel>
+inline void BlendRun(const Pixel &pixel, Uint8 *p, int count, const ColourForm &form,
+                     const FillBlend &blend)
+{
+    for (int i = 0; i < count; ++i, p += Pixel::kBytes) {
+        Uint8 r, g, b;
+        form.Split(pixel.Read(p), &r, &g, &b);
+        pixel.StoreRGB(p, blend.Channel(r, blend.red), blend.Channel(g, blend.green),
+                       blend.Channel(b, blend.blue), form);
+    }
+}
+
+// When red, green and blue each fill one whole byte of a 3- or 4-byte
+// pixel, the fill works byte by byte: byte j of a run of pixels becomes
+// (old * mul[j] + add[j]) >> 8. A channel byte has mul = a and
+// add = c * (255 - a); the spare byte of a 4-byte pixel has mul = 0 and
+// add = (its byte of Amask) << 8, since the store ORs Amask in. The
+// weights repeat every `bytes` entries; 16 are kept so that any 8 in a
+// row can be loaded from the start of a pixel onwards.
+struct ByteLanes {
+    int bytes;
+    Uint16 mul[16];
+    Uint16 add[16];
+
+    // Where the weights of byte 8 * block of a run start: vectors are
+    // made of such 8-byte blocks.
+    int BlockStart(int block) const { return bytes == 4 ? 0 : (2 * block) % 3; }
+};
+
+// False unless the format's channels are whole bytes (FindByteChannels).
+bool MakeByteLanes(const SDL_PixelFormat *format, KVT_RGBA colour, ByteLanes *out);
+
+// The definition: per pixel, split the old value through SDL, blend, store.
 void FillAlphaPlain(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 
+// The fast paths. Each answers false, having touched nothing, when the
+// surface's format is not one that it handles.
+
+// 1 byte per pixel: each old index is blended once, when first met, and
+// the new index is remembered for the rest of the call.
+bool FillAlphaIndexed(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+// Any true-colour format whose channels fit in 8 bits: the split and the
+// mapping are done inline, with no library call per pixel.
+bool FillAlphaChannels(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+// 3 and 4 bytes per pixel with whole-byte channels, byte by byte.
+bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+
+// True for 2-byte true-colour formats whose channels are contiguous fields
+// of 4 to 8 bits: the widening shift of SDL's split, 8 - 2 * loss, is then
+// defined, and every step of the blend fits a 16-bit lane.
+bool HasPacked16Channels(const SDL_PixelFormat *format);
+
+#if defined(__SSE2__)
+// FillAlphaBytes on 16 bytes at a time.
+bool FillAlphaBytesSse2(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+// Formats with HasPacked16Channels, 8 pixels at a time.
+bool FillAlphaPacked16Sse2(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+// The same two on 32 bytes at a time; they also answer false when the
+// processor has no AVX2.
+bool FillAlphaBytesAvx2(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+bool FillAlphaPacked16Avx2(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+#endif
 
 } // namespace kvt
 

@@ -1,0 +1,155 @@
+#include <climits>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include <kvt/draw/internal/fill_alpha_paths.h>
+#include <kvt/draw/pixel.h>
+
+#include "support/surfaces.h"
+
+using kvt_test::FormatSpec;
+using kvt_test::GuardedSurface;
+
+namespace {
+
+bool Everywhere(const FormatSpec &) { return true; }
+bool Paletted(const FormatSpec &f) { return f.bitsPerPixel == 8; }
+bool TrueColour(const FormatSpec &f) { return f.bitsPerPixel > 8; }
+[[maybe_unused]] bool TwoBytes(const FormatSpec &f) { return f.bitsPerPixel == 16; }
+bool IsWholeByte(Uint32 mask)
+{
+    return mask == 0xFF || mask == 0xFF00 || mask == 0xFF0000 || mask == 0xFF000000;
+}
+bool ThreeOrFourBytes(const FormatSpec &f)
+{
+    return f.bitsPerPixel >= 24 && IsWholeByte(f.rmask) && IsWholeByte(f.gmask) &&
+           IsWholeByte(f.bmask);
+}
+
+#if defined(__SSE2__)
+bool ThreeOrFourBytesOnAvx2(const FormatSpec &f)
+{
+    return ThreeOrFourBytes(f) && __builtin_cpu_supports("avx2");
+}
+bool TwoBytesOnAvx2(const FormatSpec &f) { return TwoBytes(f) && __builtin_cpu_supports("avx2"); }
+#endif
+
+// Every fill path, and the formats of the test set that it must accept.
+// The public call has no area function: it is given the uncut rectangle.
+struct FillPath {
+    const char *name;
+    bool (*fill)(SDL_Surface *, const kvt::Area &, KVT_RGBA);
+    bool (*handles)(const FormatSpec &);
+};
+
+const FillPath kPaths[] = {
+    {"KVT_FillRectAlpha", nullptr, Everywhere},
+    {"Indexed", kvt::FillAlphaIndexed, Paletted},
+    {"Channels", kvt::FillAlphaChannels, TrueColour},
+    {"Bytes", kvt::FillAlphaBytes, ThreeOrFourBytes},
+#if defined(__SSE2__)
+    {"BytesSse2", kvt::FillAlphaBytesSse2, ThreeOrFourBytes},
+    {"Packed16Sse2", kvt::FillAlphaPacked16Sse2, TwoBytes},
+    {"BytesAvx2", kvt::FillAlphaBytesAvx2, ThreeOrFourBytesOnAvx2},
+    {"Packed16Avx2", kvt::FillAlphaPacked16Avx2, TwoBytesOnAvx2},
+#endif
+};
+
+class FillAlphaTest : public ::testing::TestWithParam<FormatSpec> {};
+
+// Random surfaces, colours, alphas and areas (unaligned starts, widths
+// that leave every kind of tail): each path must give the plain path's
+// bytes, and a path that declines a format must leave it untouched.
+TEST_P(FillAlphaTest, EveryPathGivesThePlainBytes)
+{
+    const int kAlphas[] = {0, 1, 127, 128, 254, 255};
+    std::mt19937 rng(1234);
+    std::uniform_int_distribution<int> byte(0, 255);
+    for (const FillPath &path : kPaths) {
+        for (int trial = 0; trial < 300; ++trial) {
+            const int w = 1 + int(rng() % 80), h = 1 + int(rng() % 5), pad = int(rng() % 8);
+            const unsigned seed = unsigned(rng());
+            GuardedSurface want(GetParam(), w, h, pad), got(GetParam(), w, h, pad);
+            std::mt19937 fillA(seed), fillB(seed);
+            want.FillRandom(fillA);
+            got.FillRandom(fillB);
+            // Rectangles that hang off any side or miss the surface too.
+            const int x = int(rng() % unsigned(w + 12)) - 10, y = int(rng() % unsigned(h + 5)) - 3;
+            const int rw = int(rng() % 75) - 2, rh = int(rng() % 9) - 1;
+            kvt::Area area;
+            const bool onSurface = kvt::ClipToSurface(want, x, y, rw, rh, &area);
+            const int a = rng() % 2 ? kAlphas[rng() % 6] : byte(rng);
+            const KVT_RGBA colour = KVT_RGB(Uint8(byte(rng)), Uint8(byte(rng)), Uint8(byte(rng)),
+                                            Uint8(a));
+            const std::vector<Uint8> before = got.PixelBytes();
+            if (onSurface)
+                kvt::FillAlphaPlain(want, area, colour);
+            bool applied = true;
+            if (path.fill == nullptr)
+                KVT_FillRectAlpha(got, x, y, rw, rh, colour);
+            else if (onSurface)
+                applied = path.fill(got, area, colour);
+            std::ostringstream what;
+            what << path.name << " on " << w << "x" << h << ", rectangle (" << x << ", " << y
+                 << ", " << rw << ", " << rh << "), alpha " << a;
+            if (onSurface) {
+                ASSERT_EQ(path.handles(GetParam()), applied) << what.str() << ": wrong formats";
+            }
+            if (applied) {
+                ASSERT_EQ("", kvt_test::FirstDifference(want, got)) << what.str();
+            } else {
+                ASSERT_TRUE(before == got.PixelBytes() && got.GuardsIntact()) << what.str();
+            }
+        }
+    }
+}
+
+// The public call cuts the rectangle to the surface; what it leaves must
+// be blended exactly as KVT_SetPixelAlpha blends each pixel, and nothing
+// else may change.
+TEST_P(FillAlphaTest, CutsTheRectangleToTheSurface)
+{
+    const int W = 12, H = 8;
+    struct Case {
+        const char *what;
+        int x, y, w, h;
+        SDL_Rect filled; // w == 0: nothing
+    };
+    const Case cases[] = {
+        {"x = -3, w = 10 fills columns 0 to 6", -3, 1, 10, 2, {0, 1, 7, 2}},
+        {"y + h == surface h reaches the last row", 2, 3, 4, H - 3, {2, 3, 4, H - 3}},
+        {"x + w == surface w reaches the last column", W - 4, 1, 4, 2, {W - 4, 1, 4, 2}},
+        {"larger on every side fills everything", -5, -6, W + 11, H + 13, {0, 0, W, H}},
+        {"sizes whose sums overflow 32 bits", 1, 2, INT_MAX, INT_MAX, {1, 2, W - 1, H - 2}},
+        {"x == surface w does nothing", W, 0, 5, 5, {0, 0, 0, 0}},
+        {"y == surface h does nothing", 0, H, 5, 5, {0, 0, 0, 0}},
+        {"zero width does nothing", 2, 2, 0, 3, {0, 0, 0, 0}},
+        {"zero height does nothing", 2, 2, 3, 0, {0, 0, 0, 0}},
+        {"negative width does nothing", 5, 2, -3, 3, {0, 0, 0, 0}},
+        {"negative height does nothing", 2, 5, 3, -2, {0, 0, 0, 0}},
+        {"wholly left of the surface does nothing", -10, 0, 10, 3, {0, 0, 0, 0}},
+        {"wholly above the surface does nothing", 0, -4, 3, 4, {0, 0, 0, 0}},
+    };
+    const KVT_RGBA colour = KVT_RGB(200, 90, 30, 100);
+    for (const Case &c : cases) {
+        GuardedSurface want(GetParam(), W, H), got(GetParam(), W, H);
+        std::mt19937 fillA(5), fillB(5);
+        want.FillRandom(fillA);
+        got.FillRandom(fillB);
+        for (int y = c.filled.y; y < c.filled.y + c.filled.h; ++y)
+            for (int x = c.filled.x; x < c.filled.x + c.filled.w; ++x)
+                KVT_SetPixelAlpha(want, Sint16(x), Sint16(y), colour.r, colour.g, colour.b,
+                                  colour.a);
+        KVT_FillRectAlpha(got, c.x, c.y, c.w, c.h, colour);
+        EXPECT_EQ("", kvt_test::FirstDifference(want, got)) << c.what;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFormats, FillAlphaTest, ::testing::ValuesIn(kvt_test::AllFormats()),
+                         [](const auto &info) { return kvt_test::FormatName(info.param); });
+INSTANTIATE_TEST_SUITE_P(MoreFormats, FillAlphaTest,
+                         ::testing::ValuesIn(kvt_test::MoreFormats()),
+                         [](const auto &info) { return kvt_test::FormatName(info.param); });
+
+} // namespace
