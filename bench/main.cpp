@@ -1,0 +1,33 @@
+// Benchmark entry point: SDL on its dummy video driver, so that no display
+// is needed, with the default signal handlers back in place (SDL turns
+// SIGINT and SIGTERM into quit events, which would make ^C do nothing).
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+#include <SDL.h>
+#include <benchmark/benchmark.h>
+
+#include "bench_surfaces.h"
+
+int main(int argc, char **argv)
+{
+    setenv("SDL_VIDEODRIVER", "dummy", 1);
+    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+        std::fprintf(stderr, "SDL_Init: %s\n", SDL_GetError());
+        return 2;
+    }
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+    kvt_bench::RegisterFillBenchmarks();
+    kvt_bench::RegisterBlitBenchmarks();
+    kvt_bench::RegisterLineBenchmarks();
+    kvt_bench::RegisterSpriteBenchmarks();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    SDL_Quit();
+    return 0;
+}
