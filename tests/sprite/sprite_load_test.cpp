@@ -1,6 +1,5 @@
 #include <cstring>
 #include <random>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -46,25 +45,6 @@ const std::vector<Uint32> kExamplePixels = {kClearPixel, 0xFF0000, 0x00FF00,
 
 bool IsEmpty(const KVT_Sprite &s) { return s.frames == nullptr && s.nbFrames == 0; }
 
-// "" when the frame is `pixels` mapped through `format`, with the key
-// where a pixel is clear; otherwise the first pixel that is not.
-std::string FrameDifference(SDL_Surface *frame, const SDL_PixelFormat *format, int width,
-                            const std::vector<Uint32> &pixels)
-{
-    for (size_t i = 0; i < pixels.size(); ++i) {
-        const Uint32 c = pixels[i] == kClearPixel ? 0xFF00FF : pixels[i];
-        const Uint32 want = SDL_MapRGB(format, Uint8(c >> 16), Uint8(c >> 8), Uint8(c));
-        const int x = int(i) % width, y = int(i) / width;
-        if (kvt_test::ReadValue(frame, x, y) != want) {
-            std::ostringstream out;
-            out << "pixel (" << x << ", " << y << ") is 0x" << std::hex
-                << kvt_test::ReadValue(frame, x, y) << ", expected 0x" << want;
-            return out.str();
-        }
-    }
-    return "";
-}
-
 class SpriteLoadFormats : public ::testing::TestWithParam<FormatSpec> {
 protected:
     GuardedSurface formatHolder{GetParam(), 1, 1};
@@ -94,7 +74,7 @@ TEST_P(SpriteLoadFormats, ExampleFileBuildsOneKeyedFrameInTheTargetFormat)
                                  256 * sizeof(SDL_Color)))
             << "an 8-bit frame must carry the target's palette";
     }
-    EXPECT_EQ("", FrameDifference(s, format, 3, kExamplePixels));
+    EXPECT_EQ("", kvt_test::FrameDifference(s, format, 3, kExamplePixels));
 }
 
 // Run word 0, a fourth byte in pixel words, a run cut at the edge with
@@ -112,7 +92,7 @@ TEST_P(SpriteLoadFormats, RunEdgeCasesDecodeByTheRowRules)
                                       1,           2,           3,           4,
                                       kClearPixel, 0xFF00FF,    0x808080,    kClearPixel,
                                       kClearPixel, kClearPixel, kClearPixel, kClearPixel};
-    EXPECT_EQ("", FrameDifference(sprite.GetFrameSurface(0), format, 4, want));
+    EXPECT_EQ("", kvt_test::FrameDifference(sprite.GetFrameSurface(0), format, 4, want));
     const KVT_SpriteFrame &frame = sprite.frames[0];
     EXPECT_EQ(std::vector<int>({0x5678, 2, -1}), std::vector<int>({frame.tag, frame.hotX, frame.hotY}));
 }

@@ -1,5 +1,8 @@
 #include "support/sprite_file.h"
 
+#include <sstream>
+
+#include "support/surfaces.h"
 #include "support/temp_file.h"
 
 namespace kvt_test {
@@ -95,6 +98,23 @@ bool LoadTestFont(KVT_Sprite *font, const SDL_PixelFormat *format)
     for (const SpritePicture &glyph : TestFontGlyphs())
         records.push_back(PackPicture(glyph));
     return LoadSpriteBytes(font, SpriteFileBytes(records), format);
+}
+
+std::string FrameDifference(SDL_Surface *frame, const SDL_PixelFormat *format, int width,
+                            const std::vector<Uint32> &pixels)
+{
+    for (size_t i = 0; i < pixels.size(); ++i) {
+        const Uint32 c = pixels[i] == kClearPixel ? 0xFF00FF : pixels[i];
+        const Uint32 want = SDL_MapRGB(format, Uint8(c >> 16), Uint8(c >> 8), Uint8(c));
+        const int x = int(i) % width, y = int(i) / width;
+        if (ReadValue(frame, x, y) != want) {
+            std::ostringstream out;
+            out << "pixel (" << x << ", " << y << ") is 0x" << std::hex << ReadValue(frame, x, y)
+                << ", expected 0x" << want;
+            return out.str();
+        }
+    }
+    return "";
 }
 
 } // namespace kvt_test

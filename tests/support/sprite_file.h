@@ -4,6 +4,7 @@
 // Writing sprite files for tests: frame records word by word (damaged ones
 // included), pictures packed into runs, and the small font of the tests.
 
+#include <string>
 #include <vector>
 
 #include <SDL.h>
@@ -51,6 +52,12 @@ bool LoadSpriteBytes(KVT_Sprite *sprite, const std::vector<Uint8> &file,
                      const SDL_PixelFormat *format);
 // Loads the test font in `format`.
 bool LoadTestFont(KVT_Sprite *font, const SDL_PixelFormat *format);
+
+// "" when the loaded frame is `pixels` (width columns, row by row) mapped
+// through `format`, with the key where a pixel is clear; otherwise the
+// first pixel that is not.
+std::string FrameDifference(SDL_Surface *frame, const SDL_PixelFormat *format, int width,
+                            const std::vector<Uint32> &pixels);
 
 } // namespace kvt_test
 
