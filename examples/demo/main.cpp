@@ -1,0 +1,88 @@
+// kvt-demo: paints every scene of the demo. Without --window it runs on
+// SDL's dummy video driver and writes each scene as a PNG; with --window
+// it shows them on the display.
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include <SDL.h>
+
+#include "assets.h"
+#include "options.h"
+#include "png_file.h"
+#include "scenes.h"
+#include "window.h"
+
+#ifndef KVT_DEMO_DATA_DIR
+#define KVT_DEMO_DATA_DIR "data"
+#endif
+// Where the build put the sprite fonts; empty when it made none.
+#ifndef KVT_DEMO_FONTS_DIR
+#define KVT_DEMO_FONTS_DIR ""
+#endif
+
+namespace kvt_demo {
+
+static bool WritePictures(SDL_Surface *screen, Assets &assets, const std::string &outDir)
+{
+    std::error_code error;
+    std::filesystem::create_directories(outDir, error);
+    if (error) {
+        std::fprintf(stderr, "cannot create %s: %s\n", outDir.c_str(), error.message().c_str());
+        return false;
+    }
+    for (const Scene &scene : ScenesFor(assets)) {
+        scene.paint(screen, assets);
+        std::string path = outDir + "/" + scene.name + ".png";
+        if (!WritePng(screen, path.c_str()))
+            return false;
+        std::printf("%s\n", path.c_str());
+    }
+    return true;
+}
+
+static int Run(const Options &options)
+{
+    // A software surface of 32 bits whatever the display: SDL converts for
+    // the window if it must, and the surface never needs locking.
+    SDL_Surface *screen = SDL_SetVideoMode(kSceneWidth, kSceneHeight, 32, SDL_SWSURFACE);
+    if (!screen) {
+        std::fprintf(stderr, "SDL_SetVideoMode: %s\n", SDL_GetError());
+        return 1;
+    }
+    Assets assets;
+    if (!LoadAssets(options.dataDir, options.fontsDir, screen, &assets))
+        return 1;
+    if (options.window) {
+        RunWindow(screen, assets);
+        return 0;
+    }
+    return WritePictures(screen, assets, options.outDir) ? 0 : 1;
+}
+
+} // namespace kvt_demo
+
+int main(int argc, char **argv)
+{
+    kvt_demo::Options options;
+    int exitCode = 0;
+    if (!kvt_demo::ParseOptions(argc, argv, KVT_DEMO_DATA_DIR, KVT_DEMO_FONTS_DIR, &options,
+                                &exitCode))
+        return exitCode;
+    if (!options.window)
+        setenv("SDL_VIDEODRIVER", "dummy", 1);
+    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+        std::fprintf(stderr, "SDL_Init: %s\n", SDL_GetError());
+        return 1;
+    }
+    // SDL turns these into quit events; a stuck run must stay killable.
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+    SDL_WM_SetCaption("kvt demo", "kvt demo");
+    int result = kvt_demo::Run(options);
+    SDL_Quit();
+    return result;
+}

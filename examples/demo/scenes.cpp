@@ -1,0 +1,23 @@
+#include "scenes.h"
+
+namespace kvt_demo {
+
+const std::vector<Scene> &AllScenes()
+{
+    static const std::vector<Scene> scenes = {
+        {"drawing", PaintDrawingScene},
+        {"text", PaintTextScene, true},
+    };
+    return scenes;
+}
+
+std::vector<Scene> ScenesFor(const Assets &assets)
+{
+    std::vector<Scene> scenes;
+    for (const Scene &scene : AllScenes())
+        if (!scene.needsFonts || assets.HasFonts())
+            scenes.push_back(scene);
+    return scenes;
+}
+
+} // namespace kvt_demo

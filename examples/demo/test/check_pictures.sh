@@ -1,0 +1,26 @@
+#!/bin/sh
+# Runs the demo headless into a fresh folder and checks every picture it
+# reports: each must be a 640x480 PNG with real content, and each of the
+# expected pictures must be among them.
+#
+# usage: check_pictures.sh RUN DEMO PNG_CHECK OUT_DIR EXPECTED
+# RUN is put before both programs: empty, or an emulator with its options.
+# EXPECTED names the pictures that must be there, separated by spaces
+# (e.g. "drawing text" for drawing.png and text.png).
+set -eu
+RUN=$1 DEMO=$2 CHECK=$3 OUT=$4 EXPECTED=$5
+
+rm -rf "$OUT"
+$RUN "$DEMO" --out "$OUT" >"$OUT.list"
+[ -s "$OUT.list" ] || { echo "the demo reported no picture" >&2; exit 1; }
+for name in $EXPECTED; do
+    grep -qx "$OUT/$name.png" "$OUT.list" || {
+        echo "$name.png is not among the pictures reported:" >&2
+        cat "$OUT.list" >&2
+        exit 1
+    }
+done
+while read -r picture; do
+    $RUN "$CHECK" "$picture" 640 480 256
+    echo "$picture: 640x480 PNG"
+done <"$OUT.list"
