@@ -120,6 +120,17 @@ inline void WithDepth(const SDL_PixelFormat *format, Fn &&fn)
     }
 }
 
+// Calls fn(PixelAccess<Bytes>) only when the surface has that depth, for
+// code that exists for one depth alone; answers whether it did.
+template <int Bytes, class Fn>
+inline bool WithDepthOf(const SDL_PixelFormat *format, Fn &&fn)
+{
+    if (format->BytesPerPixel != Bytes || (Bytes == 3 && !HasInPixelChannels(format)))
+        return false;
+    fn(PixelAccess<Bytes>(format));
+    return true;
+}
+
 inline bool IsOnSurface(const SDL_Surface *surface, int x, int y)
 {
     return x >= 0 && y >= 0 && x < surface->w && y < surface->h;

@@ -70,32 +70,27 @@ bool FillAlphaChannels(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 
 bool FillAlphaIndexed(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    bool done = false;
-    WithDepth(surface->format, [&](auto pixel) {
-        if constexpr (decltype(pixel)::kBytes == 1) {
-            const ColourForm form(surface->format);
-            const FillBlend blend(colour);
-            // Filled on first use: a small fill pays only for the indices
-            // that it meets, never for the whole palette.
-            Uint8 newIndex[256];
-            bool known[256] = {};
-            for (int y = area.y0; y < area.y1; ++y) {
-                Uint8 *p = PixelAddress(surface, area.x0, y);
-                for (int x = area.x0; x < area.x1; ++x, ++p) {
-                    const Uint8 old = Uint8(pixel.Read(p));
-                    if (!known[old]) {
-                        Uint8 blended = old;
-                        BlendRun(pixel, &blended, 1, form, blend);
-                        newIndex[old] = blended;
-                        known[old] = true;
-                    }
-                    pixel.Store(p, newIndex[old]);
+    return WithDepthOf<1>(surface->format, [&](auto pixel) {
+        const ColourForm form(surface->format);
+        const FillBlend blend(colour);
+        // Filled on first use: a small fill pays only for the indices that
+        // it meets, never for the whole palette.
+        Uint8 newIndex[256];
+        bool known[256] = {};
+        for (int y = area.y0; y < area.y1; ++y) {
+            Uint8 *p = PixelAddress(surface, area.x0, y);
+            for (int x = area.x0; x < area.x1; ++x, ++p) {
+                const Uint8 old = Uint8(pixel.Read(p));
+                if (!known[old]) {
+                    Uint8 blended = old;
+                    BlendRun(pixel, &blended, 1, form, blend);
+                    newIndex[old] = blended;
+                    known[old] = true;
                 }
+                pixel.Store(p, newIndex[old]);
             }
-            done = true;
         }
     });
-    return done;
 }
 
 bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour)

@@ -76,14 +76,8 @@ bool FillAlphaPacked16Sse2(SDL_Surface *surface, const Area &area, KVT_RGBA colo
     if (!HasPacked16Channels(surface->format))
         return false;
     const ColourForm form(surface->format);
-    bool done = false;
-    WithDepth(surface->format, [&](auto pixel) {
-        if constexpr (decltype(pixel)::kBytes == 2) {
-            FillPacked16(surface, area, colour, form, pixel);
-            done = true;
-        }
-    });
-    return done;
+    return WithDepthOf<2>(surface->format,
+                          [&](auto pixel) { FillPacked16(surface, area, colour, form, pixel); });
 }
 
 } // namespace kvt
