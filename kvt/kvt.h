@@ -11,6 +11,8 @@
 #include <kvt/sprite/sprite.h>
 #include <kvt/sprite/text.h>
 #include <kvt/ui/core/theme.h>
+#include <kvt/ui/core/region_saver.h>
+#include <kvt/ui/core/object.h>
 #include <kvt/math/point.h>
 #include <kvt/math/matrix.h>
 
