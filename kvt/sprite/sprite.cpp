@@ -16,12 +16,23 @@ SDL_Rect AnchoredAt(const KVT_SpriteFrame &frame, Sint16 x, Sint16 y, Uint16 w, 
     return destination;
 }
 
-// The blit that all display operations end with. The alpha state is set
-// at every call, so each blit is independent of what came before.
+// True when the frame already blends as asked: SDL keeps the alpha of a
+// surface without SDL_SRCALPHA at opaque.
+bool HasAlphaState(const SDL_Surface *frame, Uint32 alphaFlag, Uint8 alpha)
+{
+    const Uint8 wanted = alphaFlag != 0 ? alpha : Uint8(SDL_ALPHA_OPAQUE);
+    return (frame->flags & SDL_SRCALPHA) == alphaFlag && frame->format->alpha == wanted;
+}
+
+// The blit that all display operations end with. The alpha state is made
+// right at every call, so each blit is independent of what came before;
+// text blits many frames in the same state, so SDL is only asked to
+// change it when it differs.
 bool Blit(const KVT_SpriteFrame &frame, SDL_Rect *source, SDL_Surface *target,
           SDL_Rect destination, Uint32 alphaFlag, Uint8 alpha)
 {
-    SDL_SetAlpha(frame.surface, alphaFlag, alpha);
+    if (!HasAlphaState(frame.surface, alphaFlag, alpha))
+        SDL_SetAlpha(frame.surface, alphaFlag, alpha);
     return SDL_UpperBlit(frame.surface, source, target, &destination) == 0;
 }
 
