@@ -13,6 +13,12 @@
 #include <kvt/ui/core/theme.h>
 #include <kvt/ui/core/region_saver.h>
 #include <kvt/ui/core/object.h>
+#include <kvt/ui/buttons/normal_button.h>
+#include <kvt/ui/buttons/gfx_button.h>
+#include <kvt/ui/buttons/multi_gfx_button.h>
+#include <kvt/ui/core/screen.h>
+#include <kvt/ui/buttons/sign_button.h>
+#include <kvt/ui/buttons/bool_chooser.h>
 #include <kvt/math/point.h>
 #include <kvt/math/matrix.h>
 

@@ -92,12 +92,18 @@ bool LoadSpriteBytes(KVT_Sprite *sprite, const std::vector<Uint8> &file,
     return sprite->Load(temp.path(), format);
 }
 
-bool LoadTestFont(KVT_Sprite *font, const SDL_PixelFormat *format)
+bool LoadSpritePictures(KVT_Sprite *sprite, const std::vector<SpritePicture> &pictures,
+                        const SDL_PixelFormat *format)
 {
     std::vector<SpriteRecord> records;
-    for (const SpritePicture &glyph : TestFontGlyphs())
-        records.push_back(PackPicture(glyph));
-    return LoadSpriteBytes(font, SpriteFileBytes(records), format);
+    for (const SpritePicture &picture : pictures)
+        records.push_back(PackPicture(picture));
+    return LoadSpriteBytes(sprite, SpriteFileBytes(records), format);
+}
+
+bool LoadTestFont(KVT_Sprite *font, const SDL_PixelFormat *format)
+{
+    return LoadSpritePictures(font, TestFontGlyphs(), format);
 }
 
 std::string FrameDifference(SDL_Surface *frame, const SDL_PixelFormat *format, int width,

@@ -50,6 +50,9 @@ std::vector<SpritePicture> TestFontGlyphs();
 // Writes `file` to a temporary file and loads it.
 bool LoadSpriteBytes(KVT_Sprite *sprite, const std::vector<Uint8> &file,
                      const SDL_PixelFormat *format);
+// Packs the pictures as the frames of one file and loads it.
+bool LoadSpritePictures(KVT_Sprite *sprite, const std::vector<SpritePicture> &pictures,
+                        const SDL_PixelFormat *format);
 // Loads the test font in `format`.
 bool LoadTestFont(KVT_Sprite *font, const SDL_PixelFormat *format);
 

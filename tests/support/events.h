@@ -1,0 +1,35 @@
+#ifndef KVT_TESTS_SUPPORT_EVENTS_H
+#define KVT_TESTS_SUPPORT_EVENTS_H
+
+// SDL events as an application's loop would receive them, built by hand
+// so that widget tests can drive a screen without a display, and a way to
+// hold a key down in the array that SDL_GetKeyState(NULL) returns.
+
+#include <SDL.h>
+
+namespace kvt_test {
+
+// `buttons` is the mask of buttons held (SDL_BUTTON(1) for the left one).
+SDL_Event MotionEvent(int x, int y, Uint8 buttons = 0);
+SDL_Event ButtonDownEvent(int x, int y, Uint8 button = SDL_BUTTON_LEFT);
+SDL_Event ButtonUpEvent(int x, int y, Uint8 button = SDL_BUTTON_LEFT);
+SDL_Event KeyDownEvent(SDLKey sym, Uint16 unicode = 0, SDLMod mod = KMOD_NONE);
+SDL_Event KeyUpEvent(SDLKey sym, Uint16 unicode = 0, SDLMod mod = KMOD_NONE);
+
+// Marks `key` as held in SDL's keyboard state for its lifetime, as the
+// screen reads it for Shift+Tab, and puts the old entry back afterwards.
+class HeldKey {
+public:
+    explicit HeldKey(SDLKey key);
+    ~HeldKey();
+    HeldKey(const HeldKey &) = delete;
+    HeldKey &operator=(const HeldKey &) = delete;
+
+private:
+    SDLKey key_;
+    Uint8 before_;
+};
+
+} // namespace kvt_test
+
+#endif

@@ -1,0 +1,60 @@
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include <kvt/ui/core/region_saver.h>
+
+#include "support/expected.h"
+#include "support/surfaces.h"
+
+using kvt_test::ExpectedPixels;
+using kvt_test::FormatSpec;
+using kvt_test::GuardedSurface;
+
+namespace {
+
+TEST(RegionSaver, RestoreBeforeAnySaveFailsAndASecondSaveReplacesTheFirst)
+{
+    GuardedSurface surface(kvt_test::AllFormats()[5], 16, 12);
+    KVT_RegionSaver saver;
+    EXPECT_FALSE(saver.RestaurRegion(surface));
+    ASSERT_TRUE(saver.SaveRegion(surface, 1, 1, 8, 8));
+    ASSERT_TRUE(saver.SaveRegion(surface, 2, 3, 5, 4));
+    ASSERT_NE(saver.image, nullptr);
+    EXPECT_EQ(saver.image->w * 100 + saver.image->h, 504) << "the image is not the second one";
+}
+
+class RegionSaverAtFormat : public ::testing::TestWithParam<FormatSpec> {};
+
+// Save, scribble over everything, restore: the saved part of the rectangle
+// comes back byte for byte, nothing else changes, and the caller's surface
+// keeps its blending settings.
+TEST_P(RegionSaverAtFormat, RestoreBringsBackExactlyTheSavedPixelsOnTheSurface)
+{
+    const int w = 20, h = 14;
+    const SDL_Rect rects[] = {{3, 4, 10, 5}, {-2, -3, 6, 7}, {w - 3, h - 2, 8, 6}, {-1, -1, 30, 30}};
+    std::mt19937 rng(7);
+    for (const SDL_Rect &r : rects) {
+        GuardedSurface surface(GetParam(), w, h);
+        surface.FillRandom(rng);
+        Uint32 flags = surface.get()->flags;
+        ExpectedPixels saved(surface);
+        KVT_RegionSaver saver;
+        ASSERT_TRUE(saver.SaveRegion(surface, r.x, r.y, r.w, r.h));
+        surface.FillRandom(rng);
+        ExpectedPixels expected(surface);
+        for (int y = std::max(0, int(r.y)); y < std::min(h, r.y + r.h); ++y)
+            for (int x = std::max(0, int(r.x)); x < std::min(w, r.x + r.w); ++x)
+                expected.Set(x, y, saved.Get(x, y));
+        EXPECT_TRUE(saver.RestaurRegion(surface));
+        EXPECT_EQ(expected.Differences(surface), "")
+            << "restoring (" << r.x << ", " << r.y << ", " << r.w << ", " << r.h << ")";
+        EXPECT_EQ(surface.get()->flags, flags) << "saving changed the surface's flags";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFormats, RegionSaverAtFormat,
+                         ::testing::ValuesIn(kvt_test::AllFormats()),
+                         [](const auto &info) { return kvt_test::FormatName(info.param); });
+
+} // namespace
