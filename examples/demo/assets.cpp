@@ -17,6 +17,7 @@ Assets::~Assets()
     accentFont.FreeFrames();
     titleFont.FreeFrames();
     shapes.FreeFrames();
+    icons.FreeFrames();
 }
 
 // The fonts' glyphs are white; this paints every pixel that is not the
@@ -71,7 +72,8 @@ bool LoadAssets(const std::string &dataDir, const std::string &fontsDir, SDL_Sur
         return false;
     assets->tile = CreateBackgroundTile();
     assets->ball = CreateBall();
-    if (!assets->tile || !assets->ball || !CreateShapeSprite(&assets->shapes)) {
+    if (!assets->tile || !assets->ball || !CreateShapeSprite(&assets->shapes) ||
+        !CreateIconSprite(&assets->icons)) {
         std::fprintf(stderr, "cannot make the demo's pictures: %s\n", SDL_GetError());
         return false;
     }

@@ -25,6 +25,8 @@ struct Assets {
     KVT_Sprite titleFont;
     // Frames drawn by the demo, each with its anchor somewhere else.
     KVT_Sprite shapes;
+    // The same pictures centred in equal squares, for buttons.
+    KVT_Sprite icons;
 
     bool HasFonts() const { return font.GetNbFrames() > 0; }
 

@@ -26,7 +26,22 @@
 
 namespace kvt_demo {
 
-static bool WritePictures(SDL_Surface *screen, Assets &assets, const std::string &outDir)
+static bool WritePicture(SDL_Surface *screen, Assets &assets, const Scene &scene,
+                         const std::string &outDir)
+{
+    if (scene.play)
+        return scene.play(screen, assets, outDir);
+    scene.paint(screen, assets);
+    std::string path = outDir + "/" + scene.name + ".png";
+    if (!WritePng(screen, path.c_str()))
+        return false;
+    std::printf("%s\n", path.c_str());
+    return true;
+}
+
+// Every scene, or only the one named by --scene.
+static bool WritePictures(SDL_Surface *screen, Assets &assets, const std::string &outDir,
+                          const std::string &only)
 {
     std::error_code error;
     std::filesystem::create_directories(outDir, error);
@@ -34,13 +49,9 @@ static bool WritePictures(SDL_Surface *screen, Assets &assets, const std::string
         std::fprintf(stderr, "cannot create %s: %s\n", outDir.c_str(), error.message().c_str());
         return false;
     }
-    for (const Scene &scene : ScenesFor(assets)) {
-        scene.paint(screen, assets);
-        std::string path = outDir + "/" + scene.name + ".png";
-        if (!WritePng(screen, path.c_str()))
+    for (const Scene &scene : ScenesFor(assets))
+        if ((only.empty() || only == scene.name) && !WritePicture(screen, assets, scene, outDir))
             return false;
-        std::printf("%s\n", path.c_str());
-    }
     return true;
 }
 
@@ -56,11 +67,15 @@ static int Run(const Options &options)
     Assets assets;
     if (!LoadAssets(options.dataDir, options.fontsDir, screen, &assets))
         return 1;
+    if (!options.scene.empty() && !HasScene(assets, options.scene)) {
+        std::fprintf(stderr, "no scene named '%s' in this demo\n", options.scene.c_str());
+        return 2;
+    }
     if (options.window) {
-        RunWindow(screen, assets);
+        RunWindow(screen, assets, options.scene);
         return 0;
     }
-    return WritePictures(screen, assets, options.outDir) ? 0 : 1;
+    return WritePictures(screen, assets, options.outDir, options.scene) ? 0 : 1;
 }
 
 } // namespace kvt_demo

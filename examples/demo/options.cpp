@@ -8,13 +8,15 @@ namespace kvt_demo {
 static void PrintUsage(FILE *to, const char *program)
 {
     std::fprintf(to,
-                 "usage: %s [--out DIR] [--data DIR] [--fonts DIR] [--window]\n"
-                 "  --out DIR   write the pictures into DIR (default: demo-out)\n"
-                 "  --data DIR  read default.theme from DIR\n"
-                 "  --fonts DIR read the sprite fonts demo-font.spr and\n"
-                 "              demo-title-font.spr from DIR\n"
-                 "  --window    show the scenes in a window instead; Space or the\n"
-                 "              arrow keys change scene, Escape or closing it ends\n",
+                 "usage: %s [--out DIR] [--data DIR] [--fonts DIR] [--scene NAME] [--window]\n"
+                 "  --out DIR     write the pictures into DIR (default: demo-out)\n"
+                 "  --data DIR    read default.theme from DIR\n"
+                 "  --fonts DIR   read the sprite fonts demo-font.spr and\n"
+                 "                demo-title-font.spr from DIR\n"
+                 "  --scene NAME  only that scene's pictures (drawing, text, buttons);\n"
+                 "                with --window, the scene shown first\n"
+                 "  --window      show the scenes in a window instead; Space or the\n"
+                 "                arrow keys change scene, Escape or closing it ends\n",
                  program);
 }
 
@@ -35,6 +37,8 @@ bool ParseOptions(int argc, char **argv, const char *defaultDataDir,
             options->dataDir = argv[++i];
         } else if (std::strcmp(arg, "--fonts") == 0 && hasValue) {
             options->fontsDir = argv[++i];
+        } else if (std::strcmp(arg, "--scene") == 0 && hasValue) {
+            options->scene = argv[++i];
         } else {
             bool help = std::strcmp(arg, "--help") == 0 || std::strcmp(arg, "-h") == 0;
             if (!help)

@@ -10,6 +10,8 @@ struct Options {
     std::string outDir;    // where the pictures go
     std::string dataDir;   // where default.theme is read from
     std::string fontsDir;  // where the sprite fonts are read from; empty: none
+    std::string scene;     // only this scene headless, the first one shown
+                           // in the window; empty: all, from the first
 };
 
 // Fills `options` from the command line, starting from the defaults

@@ -7,6 +7,7 @@ const std::vector<Scene> &AllScenes()
     static const std::vector<Scene> scenes = {
         {"drawing", PaintDrawingScene},
         {"text", PaintTextScene, true},
+        {"buttons", PaintButtonsScene, true, PlayButtonsScene, StartButtonsScene},
     };
     return scenes;
 }
@@ -18,6 +19,14 @@ std::vector<Scene> ScenesFor(const Assets &assets)
         if (!scene.needsFonts || assets.HasFonts())
             scenes.push_back(scene);
     return scenes;
+}
+
+bool HasScene(const Assets &assets, const std::string &name)
+{
+    for (const Scene &scene : ScenesFor(assets))
+        if (name == scene.name)
+            return true;
+    return false;
 }
 
 } // namespace kvt_demo

@@ -4,8 +4,11 @@
 // The demo is a list of scenes. Each paints one 640x480 picture from
 // scratch; the headless run writes it to <name>.png, the window shows it.
 // A new capability joins the demo by adding its paint function to the
-// list in scenes.cpp.
+// list in scenes.cpp. A scene of widgets also plays a script of events
+// headless, writing several pictures, and reacts to input in the window.
 
+#include <memory>
+#include <string>
 #include <vector>
 
 #include <SDL.h>
@@ -17,19 +20,38 @@ namespace kvt_demo {
 const int kSceneWidth = 640;
 const int kSceneHeight = 480;
 
+// A scene that lives in the window while it is shown: it painted itself
+// when it was made, and hears every event that the window does not keep
+// for itself (Escape and the scene keys).
+class LiveScene {
+public:
+    virtual ~LiveScene() = default;
+    virtual void HandleEvent(SDL_Event *event, SDL_Surface *screen) = 0;
+};
+
 struct Scene {
     const char *name;
     void (*paint)(SDL_Surface *screen, Assets &assets);
     bool needsFonts = false; // left out when the demo has no sprite fonts
+    // Headless, instead of one picture from `paint`: writes its own
+    // pictures <name>-*.png into the folder, printing each path. False
+    // when a picture could not be written.
+    bool (*play)(SDL_Surface *screen, Assets &assets, const std::string &outDir) = nullptr;
+    // In the window, instead of the still picture from `paint`.
+    std::unique_ptr<LiveScene> (*start)(SDL_Surface *screen, Assets &assets) = nullptr;
 };
 
 const std::vector<Scene> &AllScenes();
 // The scenes that `assets` can paint.
 std::vector<Scene> ScenesFor(const Assets &assets);
+bool HasScene(const Assets &assets, const std::string &name);
 
 // The scene functions, one per file.
 void PaintDrawingScene(SDL_Surface *screen, Assets &assets);
 void PaintTextScene(SDL_Surface *screen, Assets &assets);
+void PaintButtonsScene(SDL_Surface *screen, Assets &assets);
+bool PlayButtonsScene(SDL_Surface *screen, Assets &assets, const std::string &outDir);
+std::unique_ptr<LiveScene> StartButtonsScene(SDL_Surface *screen, Assets &assets);
 
 } // namespace kvt_demo
 

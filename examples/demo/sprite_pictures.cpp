@@ -104,6 +104,34 @@ struct Shape {
     Sint16 hotX, hotY;
 };
 
+// Hands `count` pictures over to an empty sprite as its frames, or frees
+// them all when one is missing or the frame table cannot be allocated.
+bool Fill(KVT_Sprite *sprite, const Shape *shapes, int count)
+{
+    auto *frames = static_cast<KVT_SpriteFrame *>(std::malloc(sizeof(KVT_SpriteFrame) * count));
+    bool complete = frames != nullptr;
+    for (int i = 0; i < count; ++i)
+        complete = complete && shapes[i].surface != nullptr;
+    if (!complete) {
+        for (int i = 0; i < count; ++i)
+            SDL_FreeSurface(shapes[i].surface);
+        std::free(frames);
+        return false;
+    }
+    for (int i = 0; i < count; ++i)
+        frames[i] = {Uint16(i), shapes[i].hotX, shapes[i].hotY, shapes[i].surface};
+    sprite->frames = frames;
+    sprite->nbFrames = Uint32(count);
+    return true;
+}
+
+// The anchor that centres a w x h picture in a box whose top left corner
+// is the anchor point: a negative anchor moves the picture right and down.
+Shape Centred(SDL_Surface *surface, int w, int h, int box)
+{
+    return {surface, Sint16(-(box - w) / 2), Sint16(-(box - h) / 2)};
+}
+
 } // namespace
 
 bool CreateShapeSprite(KVT_Sprite *sprite)
@@ -115,22 +143,18 @@ bool CreateShapeSprite(KVT_Sprite *sprite)
         {Paint(32, 32, ShadeGem), 0, 0},
         {Paint(72, 36, ShadeBubble), -6, 42},
     };
-    auto *frames =
-        static_cast<KVT_SpriteFrame *>(std::malloc(sizeof(KVT_SpriteFrame) * kShapeFrames));
-    bool complete = frames != nullptr;
-    for (const Shape &shape : shapes)
-        complete = complete && shape.surface != nullptr;
-    if (!complete) {
-        for (const Shape &shape : shapes)
-            SDL_FreeSurface(shape.surface);
-        std::free(frames);
-        return false;
-    }
-    for (int i = 0; i < kShapeFrames; ++i)
-        frames[i] = {Uint16(i), shapes[i].hotX, shapes[i].hotY, shapes[i].surface};
-    sprite->frames = frames;
-    sprite->nbFrames = kShapeFrames;
-    return true;
+    return Fill(sprite, shapes, kShapeFrames);
+}
+
+bool CreateIconSprite(KVT_Sprite *sprite)
+{
+    const Shape icons[kIconFrames] = {
+        Centred(CreateBall(), 40, 40, kIconBox),
+        Centred(Paint(28, 40, ShadePin), 28, 40, kIconBox),
+        Centred(Paint(36, 44, ShadeFlag), 36, 44, kIconBox),
+        Centred(Paint(32, 32, ShadeGem), 32, 32, kIconBox),
+    };
+    return Fill(sprite, icons, kIconFrames);
 }
 
 } // namespace kvt_demo

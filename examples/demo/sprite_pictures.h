@@ -17,6 +17,16 @@ enum ShapeFrame { kBallFrame, kPinFrame, kFlagFrame, kGemFrame, kBubbleFrame, kS
 // False, with the sprite still empty, when a surface cannot be made.
 bool CreateShapeSprite(KVT_Sprite *sprite);
 
+// The frames of the icon sprite, by index, and the square they sit in.
+enum IconFrame { kBallIcon, kPinIcon, kFlagIcon, kGemIcon, kIconFrames };
+const int kIconBox = 44;
+
+// Fills an empty sprite with the ball, pin, flag and gem, each centred in
+// a kIconBox square whose top left corner is the frame's anchor: drawn at
+// a point, every icon fills the same square there, as buttons want. False,
+// with the sprite still empty, when a surface cannot be made.
+bool CreateIconSprite(KVT_Sprite *sprite);
+
 } // namespace kvt_demo
 
 #endif

@@ -1,39 +1,76 @@
 #include "window.h"
 
+#include <memory>
+
 #include "scenes.h"
 
 namespace kvt_demo {
 
-static void Show(SDL_Surface *screen, Assets &assets, const Scene &scene)
+namespace {
+
+// The scene on show: a still picture, or a live scene that hears events.
+class Shown {
+public:
+    Shown(SDL_Surface *screen, Assets &assets) : screen_(screen), assets_(assets) {}
+
+    void Show(const Scene &scene)
+    {
+        live_.reset(); // its widgets go before the next scene paints
+        if (scene.start) {
+            live_ = scene.start(screen_, assets_);
+            return;
+        }
+        scene.paint(screen_, assets_);
+        SDL_UpdateRect(screen_, 0, 0, 0, 0);
+    }
+    void Pass(SDL_Event *event)
+    {
+        if (live_)
+            live_->HandleEvent(event, screen_);
+    }
+
+private:
+    SDL_Surface *screen_;
+    Assets &assets_;
+    std::unique_ptr<LiveScene> live_;
+};
+
+size_t IndexOf(const std::vector<Scene> &scenes, const std::string &name)
 {
-    scene.paint(screen, assets);
-    SDL_UpdateRect(screen, 0, 0, 0, 0);
+    for (size_t i = 0; i < scenes.size(); ++i)
+        if (name == scenes[i].name)
+            return i;
+    return 0;
 }
 
-void RunWindow(SDL_Surface *screen, Assets &assets)
+} // namespace
+
+void RunWindow(SDL_Surface *screen, Assets &assets, const std::string &firstScene)
 {
     const std::vector<Scene> scenes = ScenesFor(assets);
     const size_t count = scenes.size();
-    size_t index = 0;
-    Show(screen, assets, scenes[index]);
+    size_t index = IndexOf(scenes, firstScene);
+    Shown shown(screen, assets);
+    shown.Show(scenes[index]);
     SDL_Event event;
     while (SDL_WaitEvent(&event)) {
         if (event.type == SDL_QUIT)
             return;
         if (event.type == SDL_VIDEOEXPOSE) {
             SDL_UpdateRect(screen, 0, 0, 0, 0);
-        } else if (event.type == SDL_KEYDOWN) {
+            continue;
+        }
+        if (event.type == SDL_KEYDOWN) {
             SDLKey key = event.key.keysym.sym;
             if (key == SDLK_ESCAPE)
                 return;
-            if (key == SDLK_SPACE || key == SDLK_RIGHT) {
-                index = (index + 1) % count;
-                Show(screen, assets, scenes[index]);
-            } else if (key == SDLK_LEFT) {
-                index = (index + count - 1) % count;
-                Show(screen, assets, scenes[index]);
+            if (key == SDLK_SPACE || key == SDLK_RIGHT || key == SDLK_LEFT) {
+                index = (key == SDLK_LEFT ? index + count - 1 : index + 1) % count;
+                shown.Show(scenes[index]);
+                continue;
             }
         }
+        shown.Pass(&event);
     }
 }
 

@@ -1,18 +1,20 @@
 #!/bin/sh
 # Runs the demo headless into a fresh folder and checks every picture it
 # reports: each must be a 640x480 PNG with real content, and each of the
-# expected pictures must be among them.
+# expected pictures must be among them. The demo's other lines are the
+# reports of its scripted widget scenes; when REPORTS is given they must
+# be exactly the lines of that file.
 #
-# usage: check_pictures.sh RUN DEMO PNG_CHECK OUT_DIR EXPECTED
+# usage: check_pictures.sh RUN DEMO PNG_CHECK OUT_DIR EXPECTED [REPORTS]
 # RUN is put before both programs: empty, or an emulator with its options.
 # EXPECTED names the pictures that must be there, separated by spaces
 # (e.g. "drawing text" for drawing.png and text.png).
 set -eu
-RUN=$1 DEMO=$2 CHECK=$3 OUT=$4 EXPECTED=$5
+RUN=$1 DEMO=$2 CHECK=$3 OUT=$4 EXPECTED=$5 REPORTS=${6:-}
 
 rm -rf "$OUT"
-$RUN "$DEMO" --out "$OUT" >"$OUT.list"
-[ -s "$OUT.list" ] || { echo "the demo reported no picture" >&2; exit 1; }
+$RUN "$DEMO" --out "$OUT" >"$OUT.all"
+grep -x "$OUT/.*\.png" "$OUT.all" >"$OUT.list" || { echo "the demo reported no picture" >&2; exit 1; }
 for name in $EXPECTED; do
     grep -qx "$OUT/$name.png" "$OUT.list" || {
         echo "$name.png is not among the pictures reported:" >&2
@@ -20,6 +22,13 @@ for name in $EXPECTED; do
         exit 1
     }
 done
+if [ -n "$REPORTS" ]; then
+    grep -vx "$OUT/.*\.png" "$OUT.all" >"$OUT.reports" || true
+    diff -u "$REPORTS" "$OUT.reports" || {
+        echo "the scripted scenes' reports differ (- expected, + printed)" >&2
+        exit 1
+    }
+fi
 while read -r picture; do
     $RUN "$CHECK" "$picture" 640 480 256
     echo "$picture: 640x480 PNG"
