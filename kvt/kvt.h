@@ -19,6 +19,10 @@
 #include <kvt/ui/core/screen.h>
 #include <kvt/ui/buttons/sign_button.h>
 #include <kvt/ui/buttons/bool_chooser.h>
+#include <kvt/ui/bars/generic_horz_int_bar.h>
+#include <kvt/ui/bars/generic_vert_int_bar.h>
+#include <kvt/ui/bars/vert_scroll_bar.h>
+#include <kvt/ui/bars/horz_value_bar.h>
 #include <kvt/math/point.h>
 #include <kvt/math/matrix.h>
 

@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include <kvt/ui/bars/horz_value_bar.h>
+
+#include "support/surfaces.h"
+#include "support/theme.h"
+
+namespace {
+
+// A bar at (5, 4), 220 x 10, with square 10-pixel end buttons around a
+// track of 200 pixels: the track runs from column 15 to column 214.
+constexpr int kX = 5, kY = 4, kButton = 10, kTrackLeft = kX + kButton, kMidRow = kY + 5;
+
+struct Bench {
+    CUITheme theme = kvt_test::DistinctTheme();
+    kvt_test::GuardedSurface surface{kvt_test::AllFormats()[1], 232, 20, 4};
+    CUIHorzValueBar bar;
+    explicit Bench(int lo = 0, int hi = 100, int val = 50)
+        : bar(kX, kY, 220, kButton, &theme, lo, hi, val)
+    {
+        bar.SendMessage(CUIMSG_DRAW, 0, 0, surface);
+    }
+    bool Send(int message, int px, int py = kMidRow)
+    {
+        return bar.SendMessage(message, CUIPackPosition(px, py), SDL_BUTTON_LMASK, surface);
+    }
+};
+
+TEST(HorzValueBar, FillGrowsWithTheValue)
+{
+    const struct {
+        int lo, hi, val, fill;
+    } cases[] = {{0, 100, 50, 100}, {0, 100, 0, 0}, {0, 100, 100, 200}, {-10, 30, 0, 50},
+                 {7, 7, 7, 0}, {5, 3, 5, 0}};
+    for (const auto &c : cases) {
+        Bench b(c.lo, c.hi, c.val);
+        EXPECT_EQ(c.fill, b.bar.fillLength) << c.lo << ".." << c.hi << " at " << c.val;
+        EXPECT_TRUE(b.surface.GuardsIntact());
+    }
+}
+
+// The end of the fill at 50 is column 115: presses within 3 pixels of it,
+// either way, grab it.
+TEST(HorzValueBar, OnlyAPressNearTheEndOfTheFillGrabsIt)
+{
+    const struct {
+        int dx;
+        bool grabs;
+    } cases[] = {{100, true}, {103, true}, {104, false}, {97, true}, {96, false}, {20, false}};
+    for (const auto &c : cases) {
+        Bench b;
+        EXPECT_TRUE(b.Send(CUIMSG_MOUSEDOWN, kTrackLeft + c.dx)) << "press at +" << c.dx;
+        EXPECT_EQ(c.grabs, b.bar.dragging) << "press at +" << c.dx;
+        EXPECT_EQ(50, b.bar.GetVal()) << "press at +" << c.dx << " moved the value";
+    }
+}
+
+TEST(HorzValueBar, DragsFollowThePointerInsideTheTrack)
+{
+    const struct {
+        const char *what;
+        int px, py, val;
+    } cases[] = {
+        {"to +150", kTrackLeft + 150, kMidRow, 75},
+        {"off the bar sideways", kTrackLeft + 150, 60, 75},
+        {"far right: d 199", 900, kMidRow, 99},
+        {"far left: d 1", 1, kMidRow, 0},
+        {"left of the surface: x is read unsigned, far right", -30, kMidRow, 99},
+        {"over the right end button: not heard", kX + 215, kMidRow, 50},
+    };
+    for (const auto &c : cases) {
+        Bench b;
+        b.Send(CUIMSG_MOUSEDOWN, kTrackLeft + 100);
+        EXPECT_TRUE(b.Send(CUIMSG_MOUSEMOVE, c.px, c.py)) << c.what;
+        EXPECT_EQ(c.val, b.bar.GetVal()) << c.what;
+        EXPECT_FALSE(b.Send(CUIMSG_MOUSEUP, kTrackLeft + 20)) << c.what << ": release";
+        EXPECT_FALSE(b.bar.dragging) << c.what;
+    }
+}
+
+// The end buttons and keys reach both ends, and never wrap.
+TEST(HorzValueBar, StepsStopAtTheEndsEvenWithWrapSet)
+{
+    Bench top(0, 100, 100), bottom(0, 100, 0);
+    top.bar.wrap = bottom.bar.wrap = true;
+    EXPECT_TRUE(top.Send(CUIMSG_MOUSEDOWN, kX + 215)) << "right button";
+    EXPECT_TRUE(top.bar.SendMessage(CUIMSG_KEYDOWN, SDLK_RIGHT, 0, top.surface));
+    EXPECT_EQ(100, top.bar.GetVal());
+    EXPECT_TRUE(bottom.Send(CUIMSG_MOUSEDOWN, kX + 5)) << "left button";
+    EXPECT_TRUE(bottom.bar.SendMessage(CUIMSG_KEYDOWN, SDLK_LEFT, 0, bottom.surface));
+    EXPECT_EQ(0, bottom.bar.GetVal());
+    EXPECT_TRUE(bottom.Send(CUIMSG_MOUSEUP, kX + 5)) << "release on an end button";
+    EXPECT_FALSE(bottom.bar.SendMessage(CUIMSG_KEYDOWN, SDLK_TAB, 0, bottom.surface));
+}
+
+} // namespace
