@@ -23,6 +23,7 @@
 #include <kvt/ui/bars/generic_vert_int_bar.h>
 #include <kvt/ui/bars/vert_scroll_bar.h>
 #include <kvt/ui/bars/horz_value_bar.h>
+#include <kvt/ui/edit/text_edit.h>
 #include <kvt/math/point.h>
 #include <kvt/math/matrix.h>
 
