@@ -16,11 +16,7 @@ CUIBoolChooser::CUIBoolChooser(int x, int y, int width, int height, CUITheme *th
                                KVT_Sprite *font, const char *caption, bool value)
     : value(value), font(font), caption(caption)
 {
-    this->x = x;
-    this->y = y;
-    this->width = width;
-    this->height = height;
-    this->theme = theme;
+    Place(x, y, width, height, theme);
 }
 
 bool CUIBoolChooser::SendMessage(int message, intptr_t param1, intptr_t param2,

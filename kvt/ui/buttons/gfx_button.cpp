@@ -6,11 +6,7 @@ CUIGfxButton::CUIGfxButton(int x, int y, int width, int height, CUITheme *theme,
                            KVT_Sprite *sprite, int frame, bool doubleSize)
     : sprite(sprite), frame(frame), doubleSize(doubleSize)
 {
-    this->x = x;
-    this->y = y;
-    this->width = width;
-    this->height = height;
-    this->theme = theme;
+    Place(x, y, width, height, theme);
 }
 
 bool CUIGfxButton::SendMessage(int message, intptr_t param1, intptr_t param2,
@@ -21,17 +17,10 @@ bool CUIGfxButton::SendMessage(int message, intptr_t param1, intptr_t param2,
         Draw(surface);
         return true;
     case CUIMSG_MOUSEDOWN:
-        kvt::DrawButtonFrame(*this, surface, CUIFrame::Sunken);
-        return true;
     case CUIMSG_MOUSEUP:
-        kvt::DrawButtonFrame(*this, surface, kvt::FrameAfterRelease(*this, param1));
-        return true;
     case CUIMSG_MOUSEENTER:
-        kvt::DrawButtonFrame(*this, surface, kvt::FrameOnEnter(param2));
-        return true;
     case CUIMSG_MOUSELEAVE:
-        kvt::DrawButtonFrame(*this, surface, CUIFrame::Rest);
-        return true;
+        return kvt::ShowPressFrame(*this, message, param1, param2, surface);
     default:
         return DefaultSendMessage(message, param1, param2, surface);
     }

@@ -6,11 +6,7 @@ CUIMultiGfxButton::CUIMultiGfxButton(int x, int y, int width, int height, CUIThe
                                      KVT_Sprite *sprite, bool doubleSize)
     : sprite(sprite), frame(0), doubleSize(doubleSize)
 {
-    this->x = x;
-    this->y = y;
-    this->width = width;
-    this->height = height;
-    this->theme = theme;
+    Place(x, y, width, height, theme);
 }
 
 void CUIMultiGfxButton::SetFrame(int index)
@@ -35,8 +31,9 @@ bool CUIMultiGfxButton::SendMessage(int message, intptr_t param1, intptr_t param
         SendMessage(CUIMSG_REFRESH, 0, 0, surface);
         return true;
     case CUIMSG_MOUSEUP:
-        kvt::DrawButtonFrame(*this, surface, kvt::FrameAfterRelease(*this, param1));
-        return true;
+    case CUIMSG_MOUSEENTER:
+    case CUIMSG_MOUSELEAVE:
+        return kvt::ShowPressFrame(*this, message, param1, param2, surface);
     case CUIMSG_KEYDOWN:
         // Return turns the selector like a press and is consumed, so the
         // screen does not count it as a click; the frame stays as it is.
@@ -44,12 +41,6 @@ bool CUIMultiGfxButton::SendMessage(int message, intptr_t param1, intptr_t param
             return DefaultSendMessage(message, param1, param2, surface);
         Advance();
         SendMessage(CUIMSG_REFRESH, 0, 0, surface);
-        return true;
-    case CUIMSG_MOUSEENTER:
-        kvt::DrawButtonFrame(*this, surface, kvt::FrameOnEnter(param2));
-        return true;
-    case CUIMSG_MOUSELEAVE:
-        kvt::DrawButtonFrame(*this, surface, CUIFrame::Rest);
         return true;
     default:
         return DefaultSendMessage(message, param1, param2, surface);

@@ -8,11 +8,7 @@
 CUISignButton::CUISignButton(int x, int y, int width, int height, CUITheme *theme, int sign)
     : sign(sign)
 {
-    this->x = x;
-    this->y = y;
-    this->width = width;
-    this->height = height;
-    this->theme = theme;
+    Place(x, y, width, height, theme);
 }
 
 bool CUISignButton::SendMessage(int message, intptr_t param1, intptr_t param2,
@@ -23,17 +19,10 @@ bool CUISignButton::SendMessage(int message, intptr_t param1, intptr_t param2,
         Draw(surface);
         return true;
     case CUIMSG_MOUSEDOWN:
-        kvt::DrawButtonFrame(*this, surface, CUIFrame::Sunken);
-        return true;
     case CUIMSG_MOUSEUP:
-        kvt::DrawButtonFrame(*this, surface, kvt::FrameAfterRelease(*this, param1));
-        return true;
     case CUIMSG_MOUSEENTER:
-        kvt::DrawButtonFrame(*this, surface, kvt::FrameOnEnter(param2));
-        return true;
     case CUIMSG_MOUSELEAVE:
-        kvt::DrawButtonFrame(*this, surface, CUIFrame::Rest);
-        return true;
+        return kvt::ShowPressFrame(*this, message, param1, param2, surface);
     default:
         return DefaultSendMessage(message, param1, param2, surface);
     }

@@ -67,6 +67,18 @@ public:
     // for those three messages, false for every other.
     bool DefaultSendMessage(int message, intptr_t param1, intptr_t param2, SDL_Surface *surface);
 
+protected:
+    // What every widget's constructor sets: its rectangle and its theme.
+    void Place(int left, int top, int w, int h, CUITheme *look)
+    {
+        x = left;
+        y = top;
+        width = w;
+        height = h;
+        theme = look;
+    }
+
+public:
     // Strictly inside the widget's rectangle: its first row and column do
     // not count, nor does anything past its last ones.
     bool IsPtOnObject(int px, int py) const

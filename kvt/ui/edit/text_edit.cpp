@@ -19,11 +19,7 @@ CUITextEdit::CUITextEdit(int x, int y, int width, int height, CUITheme *theme, K
                          const char *text, bool readOnly)
     : readOnly(readOnly), font(font), caret(0), length(0)
 {
-    this->x = x;
-    this->y = y;
-    this->width = width;
-    this->height = height;
-    this->theme = theme;
+    Place(x, y, width, height, theme);
     CopyIn(text);
 }
 

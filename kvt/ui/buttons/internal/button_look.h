@@ -59,6 +59,23 @@ inline void DrawButtonImage(const CUIObject &button, KVT_Sprite *sprite, int fra
                                Uint16(button.width - 2), Uint16(button.height - 2), Uint32(frame));
 }
 
+// The frame that a press button shows for a mouse message: sunken while
+// pressed, then active or rest on release depending on where the pointer
+// is, and on entering or leaving. Answers true: the frame was painted.
+inline bool ShowPressFrame(const CUIObject &button, int message, intptr_t param1,
+                           intptr_t param2, SDL_Surface *surface)
+{
+    CUIFrame frame = CUIFrame::Rest; // CUIMSG_MOUSELEAVE
+    if (message == CUIMSG_MOUSEDOWN)
+        frame = CUIFrame::Sunken;
+    else if (message == CUIMSG_MOUSEUP)
+        frame = FrameAfterRelease(button, param1);
+    else if (message == CUIMSG_MOUSEENTER)
+        frame = FrameOnEnter(param2);
+    DrawButtonFrame(button, surface, frame);
+    return true;
+}
+
 } // namespace kvt
 
 #endif
