@@ -20,7 +20,6 @@ namespace {
 const SDL_Rect kWidgetsPanel = {16, 50, 372, 244};
 const SDL_Rect kStatusPanel = {16, 306, 372, 158};
 const SDL_Rect kReportsPanel = {404, 50, 220, 414};
-const int kLineHeight = 19;
 const size_t kReportLines = 19;
 
 struct WidgetPlace {
@@ -53,16 +52,6 @@ const struct {
     {200, 226, "CUIBoolChooser"},
 };
 
-// A translucent well on the background, framed, with its title.
-void PaintPanel(SDL_Surface *screen, Assets &assets, const SDL_Rect &panel, const char *title)
-{
-    SDL_Rect area = panel;
-    assets.theme.DrawBackground(screen, &area);
-    KVT_FillRectAlpha(screen, panel.x, panel.y, panel.w, panel.h, KVT_RGB(14, 18, 26, 120));
-    assets.theme.DrawFrame(screen, panel.x, panel.y, panel.w, panel.h, CUIFrame::SunkenRest);
-    KVT_DisplayText(screen, &assets.accentFont, panel.x + 10, panel.y + 6, title);
-}
-
 CUIObject *MakeWidget(int index, Assets &assets)
 {
     const SDL_Rect &r = kPlaces[index].rect;
@@ -93,7 +82,7 @@ SDL_Rect ButtonsScene::WidgetRect(int widget) { return kPlaces[widget].rect; }
 
 ButtonsScene::ButtonsScene(Assets &assets)
     : assets_(assets), screen_(kButtonsWidgets), reportedFocus_(0), reportedPicture_(0),
-      reportedSound_(false), logged_(0)
+      reportedSound_(false), log_(kReportsPanel, kReportLines)
 {
     for (int i = 0; i < kButtonsWidgets; ++i) {
         widgets_[i].reset(MakeWidget(i, assets));
@@ -117,13 +106,13 @@ void ButtonsScene::Draw(SDL_Surface *screen, const char *status)
     const char *note = "one CUIScreen, ten widgets";
     KVT_DisplayText(screen, &assets_.font, 624 - KVT_GetTextWidth(&assets_.font, note), 20, note);
     screen_.DrawScreen(screen);
-    PaintReports(screen);
-    PaintStatus(screen, status);
+    log_.Paint(screen, assets_);
+    PaintStatusPanel(screen, assets_, kStatusPanel, status);
 }
 
 void ButtonsScene::ShowStatus(SDL_Surface *screen, const char *status)
 {
-    PaintStatus(screen, status);
+    PaintStatusPanel(screen, assets_, kStatusPanel, status);
     SDL_UpdateRect(screen, kStatusPanel.x, kStatusPanel.y, kStatusPanel.w, kStatusPanel.h);
 }
 
@@ -137,74 +126,23 @@ void ButtonsScene::HandleEvent(SDL_Event *event, SDL_Surface *screen)
 // click comes last (the release), so the lines keep that order.
 void ButtonsScene::Report(SDL_Surface *screen)
 {
-    const long before = logged_;
+    const long before = log_.Count();
     if (screen_.focusWidget != reportedFocus_) {
         reportedFocus_ = screen_.focusWidget;
-        Log(std::string("focus: ") + ButtonsWidgetName(reportedFocus_));
+        log_.Log(std::string("focus: ") + ButtonsWidgetName(reportedFocus_));
     }
     if (picture_->GetFrame() != reportedPicture_) {
         reportedPicture_ = picture_->GetFrame();
-        Log("value: picture = " + std::to_string(reportedPicture_));
+        log_.Log("value: picture = " + std::to_string(reportedPicture_));
     }
     if (sound_->GetValue() != reportedSound_) {
         reportedSound_ = sound_->GetValue();
-        Log(std::string("value: sound = ") + (reportedSound_ ? "on" : "off"));
+        log_.Log(std::string("value: sound = ") + (reportedSound_ ? "on" : "off"));
     }
     if (screen_.GetClicked() >= 0)
-        Log(std::string("clicked: ") + ButtonsWidgetName(screen_.GetClicked()));
-    if (logged_ == before)
-        return;
-    PaintReports(screen);
-    SDL_UpdateRect(screen, kReportsPanel.x, kReportsPanel.y, kReportsPanel.w, kReportsPanel.h);
-}
-
-// Printed at once: whoever reads the demo's output sees each line as it
-// happens, also when stdout is a pipe.
-void ButtonsScene::Log(const std::string &line)
-{
-    std::printf("%s\n", line.c_str());
-    std::fflush(stdout);
-    ++logged_;
-    reports_.push_back(line);
-    if (reports_.size() > kReportLines)
-        reports_.erase(reports_.begin());
-}
-
-void ButtonsScene::PaintReports(SDL_Surface *screen)
-{
-    PaintPanel(screen, assets_, kReportsPanel, "Reports (also on stdout)");
-    int y = kReportsPanel.y + 32;
-    for (const std::string &line : reports_) {
-        KVT_DisplayText(screen, &assets_.font, kReportsPanel.x + 10, y, line.c_str());
-        y += kLineHeight;
-    }
-}
-
-// The status wrapped at spaces to the width of its panel.
-void ButtonsScene::PaintStatus(SDL_Surface *screen, const char *status)
-{
-    PaintPanel(screen, assets_, kStatusPanel, "What happens");
-    const int left = kStatusPanel.x + 10, room = kStatusPanel.w - 20;
-    int y = kStatusPanel.y + 32;
-    std::string line, word;
-    for (const char *c = status;; ++c) {
-        if (*c != ' ' && *c != '\0') {
-            word += *c;
-            continue;
-        }
-        const std::string longer = line.empty() ? word : line + " " + word;
-        if (!line.empty() && KVT_GetTextWidth(&assets_.font, longer.c_str()) > room) {
-            KVT_DisplayText(screen, &assets_.font, left, y, line.c_str());
-            y += kLineHeight;
-            line = word;
-        } else {
-            line = longer;
-        }
-        word.clear();
-        if (*c == '\0')
-            break;
-    }
-    KVT_DisplayText(screen, &assets_.font, left, y, line.c_str());
+        log_.Log(std::string("clicked: ") + ButtonsWidgetName(screen_.GetClicked()));
+    if (log_.Count() != before)
+        log_.Show(screen, assets_);
 }
 
 } // namespace kvt_demo

@@ -18,6 +18,7 @@
 #include <kvt/ui/core/screen.h>
 
 #include "assets.h"
+#include "scene_parts.h"
 #include "scenes.h"
 
 namespace kvt_demo {
@@ -60,9 +61,6 @@ public:
 
 private:
     void Report(SDL_Surface *screen);
-    void Log(const std::string &line);
-    void PaintReports(SDL_Surface *screen);
-    void PaintStatus(SDL_Surface *screen, const char *status);
 
     Assets &assets_;
     CUIScreen screen_;
@@ -73,8 +71,7 @@ private:
     int reportedFocus_;
     int reportedPicture_;
     bool reportedSound_;
-    std::vector<std::string> reports_; // the latest, oldest first
-    long logged_;                      // lines reported since the start
+    ReportLog log_;
 };
 
 } // namespace kvt_demo

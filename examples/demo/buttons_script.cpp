@@ -1,7 +1,6 @@
 // The buttons scene headless and live. Headless, a fixed script of SDL
-// events goes straight to the screen, built here rather than queued (SDL's
-// queue holds only 127 events, and nothing here needs to wait), and a
-// picture is written at each moment worth seeing.
+// events goes straight to the screen, and a picture is written at each
+// moment worth seeing.
 #include <cstdio>
 #include <string>
 
@@ -10,6 +9,7 @@
 #include "buttons_scene.h"
 #include "png_file.h"
 #include "scenes.h"
+#include "script_events.h"
 
 namespace kvt_demo {
 
@@ -28,20 +28,11 @@ const int kEmptyX = 300, kEmptyY = 180;
 class ScriptPlayer {
 public:
     ScriptPlayer(ButtonsScene &scene, SDL_Surface *screen, const std::string &outDir)
-        : scene_(scene), screen_(screen), outDir_(outDir)
+        : scene_(scene), screen_(screen), outDir_(outDir), events_(scene, screen)
     {
     }
 
-    void MoveTo(int x, int y, Uint8 buttons)
-    {
-        SDL_Event event = {};
-        event.type = SDL_MOUSEMOTION;
-        event.motion.type = SDL_MOUSEMOTION;
-        event.motion.state = buttons;
-        event.motion.x = Uint16(x);
-        event.motion.y = Uint16(y);
-        scene_.HandleEvent(&event, screen_);
-    }
+    void MoveTo(int x, int y, Uint8 buttons) { events_.MoveTo(x, y, buttons); }
     void MoveOnto(int widget, Uint8 buttons)
     {
         const SDL_Rect r = ButtonsScene::WidgetRect(widget);
@@ -51,14 +42,7 @@ public:
     void Button(Uint8 type, int widget)
     {
         const SDL_Rect r = ButtonsScene::WidgetRect(widget);
-        SDL_Event event = {};
-        event.type = type;
-        event.button.type = type;
-        event.button.button = SDL_BUTTON_LEFT;
-        event.button.state = type == SDL_MOUSEBUTTONDOWN ? SDL_PRESSED : SDL_RELEASED;
-        event.button.x = Uint16(r.x + r.w / 2);
-        event.button.y = Uint16(r.y + r.h / 2);
-        scene_.HandleEvent(&event, screen_);
+        events_.Button(type, r.x + r.w / 2, r.y + r.h / 2);
     }
     void Click(int widget)
     {
@@ -66,21 +50,9 @@ public:
         Button(SDL_MOUSEBUTTONDOWN, widget);
         Button(SDL_MOUSEBUTTONUP, widget);
     }
-    // The screen reads the left Shift key from SDL's key array, as a
-    // window would have set it before the Tab arrived.
     void Key(SDLKey sym, bool leftShift = false)
     {
-        Uint8 *keys = SDL_GetKeyState(nullptr);
-        keys[SDLK_LSHIFT] = leftShift ? 1 : 0;
-        SDL_Event event = {};
-        event.type = SDL_KEYDOWN;
-        event.key.type = SDL_KEYDOWN;
-        event.key.state = SDL_PRESSED;
-        event.key.keysym.sym = sym;
-        event.key.keysym.mod = leftShift ? KMOD_LSHIFT : KMOD_NONE;
-        event.key.keysym.unicode = sym == SDLK_TAB ? '\t' : sym == SDLK_RETURN ? '\r' : 0;
-        scene_.HandleEvent(&event, screen_);
-        keys[SDLK_LSHIFT] = 0;
+        events_.Key(sym, sym == SDLK_TAB ? '\t' : sym == SDLK_RETURN ? '\r' : 0, leftShift);
     }
     // Writes buttons-<moment>.png with `status` shown under the widgets.
     bool Shoot(const char *moment, const char *status)
@@ -98,6 +70,7 @@ private:
     ButtonsScene &scene_;
     SDL_Surface *screen_;
     std::string outDir_;
+    EventScript events_;
 };
 
 // Hover, press, drag off and back, release: the frames of a normal

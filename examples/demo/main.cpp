@@ -97,6 +97,9 @@ int main(int argc, char **argv)
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
     SDL_WM_SetCaption("kvt demo", "kvt demo");
+    // The library never turns on SDL's key translation; the demo's text
+    // fields need it, so that every key press carries its character.
+    SDL_EnableUNICODE(1);
     int result = kvt_demo::Run(options);
     SDL_Quit();
     return result;

@@ -13,8 +13,8 @@ static void PrintUsage(FILE *to, const char *program)
                  "  --data DIR    read default.theme from DIR\n"
                  "  --fonts DIR   read the sprite fonts demo-font.spr and\n"
                  "                demo-title-font.spr from DIR\n"
-                 "  --scene NAME  only that scene's pictures (drawing, text, buttons);\n"
-                 "                with --window, the scene shown first\n"
+                 "  --scene NAME  only that scene's pictures (drawing, text, buttons,\n"
+                 "                controls); with --window, the scene shown first\n"
                  "  --window      show the scenes in a window instead; Space or the\n"
                  "                arrow keys change scene, Escape or closing it ends\n",
                  program);

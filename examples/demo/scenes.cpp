@@ -8,6 +8,7 @@ const std::vector<Scene> &AllScenes()
         {"drawing", PaintDrawingScene},
         {"text", PaintTextScene, true},
         {"buttons", PaintButtonsScene, true, PlayButtonsScene, StartButtonsScene},
+        {"controls", PaintControlsScene, true, PlayControlsScene, StartControlsScene},
     };
     return scenes;
 }

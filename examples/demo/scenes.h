@@ -27,6 +27,9 @@ class LiveScene {
 public:
     virtual ~LiveScene() = default;
     virtual void HandleEvent(SDL_Event *event, SDL_Surface *screen) = 0;
+    // True when the scene wants a scene key (Space, Left, Right) for its
+    // focused widget at the moment, as a text field wants Space to type.
+    virtual bool KeepsKey(SDLKey) const { return false; }
 };
 
 struct Scene {
@@ -52,6 +55,9 @@ void PaintTextScene(SDL_Surface *screen, Assets &assets);
 void PaintButtonsScene(SDL_Surface *screen, Assets &assets);
 bool PlayButtonsScene(SDL_Surface *screen, Assets &assets, const std::string &outDir);
 std::unique_ptr<LiveScene> StartButtonsScene(SDL_Surface *screen, Assets &assets);
+void PaintControlsScene(SDL_Surface *screen, Assets &assets);
+bool PlayControlsScene(SDL_Surface *screen, Assets &assets, const std::string &outDir);
+std::unique_ptr<LiveScene> StartControlsScene(SDL_Surface *screen, Assets &assets);
 
 } // namespace kvt_demo
 

@@ -23,6 +23,7 @@ public:
         scene.paint(screen_, assets_);
         SDL_UpdateRect(screen_, 0, 0, 0, 0);
     }
+    bool Keeps(SDLKey key) const { return live_ && live_->KeepsKey(key); }
     void Pass(SDL_Event *event)
     {
         if (live_)
@@ -64,7 +65,8 @@ void RunWindow(SDL_Surface *screen, Assets &assets, const std::string &firstScen
             SDLKey key = event.key.keysym.sym;
             if (key == SDLK_ESCAPE)
                 return;
-            if (key == SDLK_SPACE || key == SDLK_RIGHT || key == SDLK_LEFT) {
+            const bool sceneKey = key == SDLK_SPACE || key == SDLK_RIGHT || key == SDLK_LEFT;
+            if (sceneKey && !shown.Keeps(key)) {
                 index = (key == SDLK_LEFT ? index + count - 1 : index + 1) % count;
                 shown.Show(scenes[index]);
                 continue;

@@ -3,7 +3,8 @@
 # reports: each must be a 640x480 PNG with real content, and each of the
 # expected pictures must be among them. The demo's other lines are the
 # reports of its scripted widget scenes; when REPORTS is given they must
-# be exactly the lines of that file.
+# be exactly the lines of those files, one file per scene in the order the
+# demo plays them, separated by spaces.
 #
 # usage: check_pictures.sh RUN DEMO PNG_CHECK OUT_DIR EXPECTED [REPORTS]
 # RUN is put before both programs: empty, or an emulator with its options.
@@ -24,7 +25,8 @@ for name in $EXPECTED; do
 done
 if [ -n "$REPORTS" ]; then
     grep -vx "$OUT/.*\.png" "$OUT.all" >"$OUT.reports" || true
-    diff -u "$REPORTS" "$OUT.reports" || {
+    cat $REPORTS >"$OUT.expected-reports"
+    diff -u "$OUT.expected-reports" "$OUT.reports" || {
         echo "the scripted scenes' reports differ (- expected, + printed)" >&2
         exit 1
     }
