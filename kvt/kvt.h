@@ -26,5 +26,7 @@
 #include <kvt/ui/edit/text_edit.h>
 #include <kvt/math/point.h>
 #include <kvt/math/matrix.h>
+#include <kvt/util/list.h>
+#include <kvt/util/dirlister.h>
 
 #endif
