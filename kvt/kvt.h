@@ -24,9 +24,13 @@
 #include <kvt/ui/bars/vert_scroll_bar.h>
 #include <kvt/ui/bars/horz_value_bar.h>
 #include <kvt/ui/edit/text_edit.h>
+#include <kvt/ui/lists/generic_list.h>
+#include <kvt/ui/lists/string_list.h>
+#include <kvt/ui/lists/file_lister.h>
 #include <kvt/math/point.h>
 #include <kvt/math/matrix.h>
 #include <kvt/util/list.h>
 #include <kvt/util/dirlister.h>
+#include <kvt/ui/lists/file_chooser.h>
 
 #endif
