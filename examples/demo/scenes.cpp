@@ -9,6 +9,7 @@ const std::vector<Scene> &AllScenes()
         {"text", PaintTextScene, true},
         {"buttons", PaintButtonsScene, true, PlayButtonsScene, StartButtonsScene},
         {"controls", PaintControlsScene, true, PlayControlsScene, StartControlsScene},
+        {"lists", PaintListsScene, true, PlayListsScene, StartListsScene},
     };
     return scenes;
 }

@@ -58,6 +58,9 @@ std::unique_ptr<LiveScene> StartButtonsScene(SDL_Surface *screen, Assets &assets
 void PaintControlsScene(SDL_Surface *screen, Assets &assets);
 bool PlayControlsScene(SDL_Surface *screen, Assets &assets, const std::string &outDir);
 std::unique_ptr<LiveScene> StartControlsScene(SDL_Surface *screen, Assets &assets);
+void PaintListsScene(SDL_Surface *screen, Assets &assets);
+bool PlayListsScene(SDL_Surface *screen, Assets &assets, const std::string &outDir);
+std::unique_ptr<LiveScene> StartListsScene(SDL_Surface *screen, Assets &assets);
 
 } // namespace kvt_demo
 
