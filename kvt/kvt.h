@@ -32,5 +32,9 @@
 #include <kvt/util/list.h>
 #include <kvt/util/dirlister.h>
 #include <kvt/ui/lists/file_chooser.h>
+#include <kvt/ui/dialogs/sdb_template.h>
+#include <kvt/ui/dialogs/sdb_open_file.h>
+#include <kvt/ui/dialogs/sdb_save_file.h>
+#include <kvt/ui/dialogs/file_dialogs.h>
 
 #endif

@@ -1,0 +1,299 @@
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include <dirent.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <kvt/ui/dialogs/file_dialogs.h>
+
+#include "support/events.h"
+#include "support/sprite_file.h"
+#include "support/surfaces.h"
+#include "support/temp_dir.h"
+#include "support/theme.h"
+
+namespace {
+
+// The dialog sits inside a margin of the surface; the points below are
+// inside its widgets (the bodies' layout: list from y + 30 in 16-pixel
+// rows, the save field 70 above the bottom, buttons 32 above it).
+constexpr int kX = 10, kY = 8, kW = 160, kH = 150, kSurfaceW = 180, kSurfaceH = 170;
+constexpr int kButtonW = (kW - 16) >> 1, kButtonsY = kY + kH - 18;
+constexpr int kOkX = kX + 4 + kButtonW / 2, kCancelX = kX + 12 + kButtonW + kButtonW / 2;
+constexpr int kListX = kX + 20, kRow0Y = kY + 36, kFieldY = kY + kH - 56;
+constexpr unsigned kTimeoutSeconds = 20;
+constexpr int kSpare = 32; // bytes after KVT_DIALOG_RESULT_SIZE that must stay untouched
+constexpr char kSpareByte = 0x5A;
+
+// SDL_WaitEvent on an empty queue never returns: fail loudly instead.
+extern "C" void OnAlarm(int)
+{
+    const char message[] = "\nfile dialog test: the dialog is waiting on an empty event queue; "
+                           "it did not end on the pushed events\n";
+    ssize_t ignored = write(2, message, sizeof message - 1);
+    (void)ignored;
+    std::abort();
+}
+
+// Armed for the life of a test that runs dialogs.
+struct HangGuard {
+    HangGuard()
+    {
+        std::signal(SIGALRM, OnAlarm);
+        alarm(kTimeoutSeconds);
+    }
+    ~HangGuard() { alarm(0); }
+};
+
+using Events = std::vector<SDL_Event>;
+using DialogCall = bool (*)(SDL_Surface *, int, int, int, int, CUITheme *, KVT_Sprite *,
+                            const char *, const char *, const char *, char *, const char *);
+
+Events Join(std::initializer_list<Events> parts)
+{
+    Events all;
+    for (const Events &part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+Events Click(int x, int y)
+{
+    return {kvt_test::ButtonDownEvent(x, y), kvt_test::ButtonUpEvent(x, y)};
+}
+Events Key(SDLKey sym) { return {kvt_test::KeyDownEvent(sym)}; }
+Events Type(const char *text)
+{
+    Events typed;
+    for (const char *c = text; *c != '\0'; ++c)
+        typed.push_back(kvt_test::KeyDownEvent(SDLKey(Uint8(*c)), Uint8(*c)));
+    return typed;
+}
+const Events kOk = Click(kOkX, kButtonsY), kCancel = Click(kCancelX, kButtonsY);
+const Events kToField = Click(kListX, kFieldY);
+
+SDL_Event Marker()
+{
+    SDL_Event event{};
+    event.user.type = SDL_USEREVENT;
+    event.user.code = 0x6b7674;
+    return event;
+}
+
+// Empties the queue; "" when it held exactly the marker.
+std::string LeftInQueue()
+{
+    std::string left;
+    SDL_Event event;
+    int n = 0;
+    for (; SDL_PollEvent(&event) == 1; ++n)
+        if (n > 0 || event.type != SDL_USEREVENT || event.user.code != Marker().user.code)
+            left += "event type " + std::to_string(event.type) + " at " + std::to_string(n) + "; ";
+    return n == 0 ? "no marker" : left;
+}
+
+struct Outcome {
+    bool answer;
+    std::string result, leftInQueue, changedUnder, changedBeside;
+    bool spareIntact;
+};
+
+// The first pixel of the dialog's rectangle that differs from `before`.
+std::string ChangedUnderDialog(const kvt_test::GuardedSurface &surface,
+                               const std::vector<Uint8> &before)
+{
+    std::vector<Uint8> now = surface.PixelBytes();
+    size_t bytes = surface.get()->format->BytesPerPixel, rowBytes = kW * bytes;
+    for (int y = kY; y < kY + kH; ++y) {
+        size_t from = (size_t(y) * kSurfaceW + kX) * bytes;
+        auto at = std::mismatch(&now[from], &now[from] + rowBytes, &before[from]).first;
+        if (at != &now[from] + rowBytes)
+            return "pixel (" + std::to_string(kX + (at - &now[from]) / bytes) + ", " +
+                   std::to_string(y) + ") under the dialog";
+    }
+    return "";
+}
+
+// Every test runs at every depth over a surface of random bytes, which
+// each dialog must leave as it found it whatever the outcome.
+class FileDialogTest : public ::testing::TestWithParam<kvt_test::FormatSpec> {
+protected:
+    void SetUp() override
+    {
+        ASSERT_NE(SDL_SetVideoMode(kSurfaceW, kSurfaceH, 32, SDL_SWSURFACE), nullptr);
+        LeftInQueue();
+        ASSERT_TRUE(dir.ok());
+        ASSERT_TRUE(kvt_test::LoadTestFont(&font, surface.get()->format));
+        for (int i = 0; i < tile->w * tile->h; ++i)
+            static_cast<Uint32 *>(tile->pixels)[i] = Uint32(i) * 0x0a1b2c;
+        theme.background = tile;
+        std::mt19937 rng(7);
+        surface.FillRandom(rng);
+    }
+    void TearDown() override
+    {
+        LeftInQueue();
+        font.FreeFrames();
+        SDL_FreeSurface(tile);
+    }
+    void MakeFiles(std::initializer_list<const char *> names)
+    {
+        for (const char *name : names)
+            ASSERT_TRUE(dir.MakeFile(name)) << name;
+    }
+
+    // Pushes `events` and a marker, then runs the dialog over them; the
+    // marker alone must be left: the dialog took every event up to the one
+    // that ended it, and no more.
+    Outcome Run(DialogCall call, const char *extension, const Events &events)
+    {
+        SDL_Event marker = Marker();
+        for (SDL_Event event : events)
+            EXPECT_EQ(SDL_PushEvent(&event), 0) << "the event queue is full";
+        SDL_PushEvent(&marker);
+        std::vector<char> buffer(KVT_DIALOG_RESULT_SIZE + kSpare, kSpareByte);
+        strcpy(buffer.data(), "caller's");
+        std::vector<Uint8> before = surface.PixelBytes();
+        bool answer = call(surface, kX, kY, kW, kH, &theme, &font, "Files", "OK", "Cancel",
+                           buffer.data(), extension);
+        bool spareIntact = std::all_of(buffer.end() - kSpare, buffer.end(),
+                                       [](char c) { return c == kSpareByte; });
+        return {answer, buffer.data(), LeftInQueue(), ChangedUnderDialog(surface, before),
+                kvt_test::ChangedOutside(surface, before, SDL_Rect{kX, kY, kW, kH}), spareIntact};
+    }
+
+    HangGuard guard;
+    kvt_test::TempCurrentDir dir;
+    kvt_test::GuardedSurface surface{GetParam(), kSurfaceW, kSurfaceH, 4};
+    SDL_Surface *tile = SDL_CreateRGBSurface(0, 7, 5, 32, 0xff0000, 0xff00, 0xff, 0);
+    CUITheme theme = kvt_test::DistinctTheme();
+    KVT_Sprite font;
+};
+
+// A name wider than the list runs past the dialog's right edge, where
+// nothing puts the surface back: only such a test lets pixels there change.
+void ExpectOutcome(const Outcome &got, bool answer, const std::string &result, const char *what,
+                   bool longNames = false)
+{
+    EXPECT_EQ(got.answer, answer) << what;
+    EXPECT_EQ(got.result, result) << what;
+    EXPECT_EQ(got.leftInQueue, "") << what << ": the dialog ended early or ate too much";
+    EXPECT_EQ(got.changedUnder, "") << what << ": the dialog's rectangle was not put back";
+    EXPECT_TRUE(longNames || got.changedBeside == "")
+        << what << ": the dialog drew beside its rectangle: " << got.changedBeside;
+    EXPECT_TRUE(got.spareIntact) << what << ": wrote past KVT_DIALOG_RESULT_SIZE";
+}
+
+TEST_P(FileDialogTest, SaveAppliesTheExtensionRuleToTheTypedName)
+{
+    struct {
+        const char *typed, *extension, *result;
+    } const rows[] = {
+        {"notes", "txt", "notes.txt"},       {"notes.txt", "txt", "notes.txt"},
+        {"notestxt", "txt", "notestxt"},     {"txt.txt", "txt", "txt.txt.txt"},
+        {"notes.txt.bak", "txt", "notes.txt.bak.txt"},
+        {"notes", "", "notes."},             {"notes", ".txt", "notes..txt"},
+        {"notes.txt", ".txt", "notes.txt"},  {"notes.doc", "txt", "notes.doc.txt"},
+    };
+    for (const auto &row : rows) {
+        Events typeAndOk = Join({kToField, Type(row.typed), kOk});
+        ExpectOutcome(Run(KVT_SaveFileDialog, row.extension, typeAndOk), true, row.result,
+                      (std::string(row.typed) + " with \"" + row.extension + "\"").c_str());
+    }
+}
+
+// One matching name ("alpha.txt", so position 0) and one that the filter hides.
+TEST_P(FileDialogTest, OutcomesOfEachWayOut)
+{
+    MakeFiles({"alpha.txt", "beta.dat"});
+    struct {
+        const char *what;
+        DialogCall call;
+        const char *extension;
+        Events events;
+        bool answer;
+        const char *result;
+    } const cases[] = {
+        {"open: OK on the untouched list", KVT_OpenFileDialog, "txt", kOk, true, "alpha.txt"},
+        {"open: OK on an empty list", KVT_OpenFileDialog, "png", kOk, false, ""},
+        {"open: Cancel after a choice", KVT_OpenFileDialog, "txt",
+         Join({Click(kListX, kRow0Y), kCancel}), false, ""},
+        {"open: Return on the list, then on OK", KVT_OpenFileDialog, "txt",
+         Join({Key(SDLK_RETURN), Key(SDLK_TAB), Key(SDLK_RETURN)}), true, "alpha.txt"},
+        {"open: Return on Cancel", KVT_OpenFileDialog, "txt",
+         Join({Key(SDLK_TAB), Key(SDLK_TAB), Key(SDLK_RETURN)}), false, ""},
+        {"open: press on Cancel, release on OK, then OK", KVT_OpenFileDialog, "txt",
+         Join({{kvt_test::ButtonDownEvent(kCancelX, kButtonsY),
+                kvt_test::ButtonUpEvent(kOkX, kButtonsY)}, kOk}), true, "alpha.txt"},
+        {"open: quit, key release and motion swallowed", KVT_OpenFileDialog, "txt",
+         Join({{SDL_Event{SDL_QUIT}, kvt_test::KeyUpEvent(SDLK_RETURN),
+                kvt_test::MotionEvent(kCancelX, kButtonsY)}, kOk}), true, "alpha.txt"},
+        {"save: Cancel after typing", KVT_SaveFileDialog, "txt",
+         Join({kToField, Type("x"), kCancel}), false, "caller's"},
+        {"save: OK with an empty field", KVT_SaveFileDialog, "txt", kOk, false, ""},
+        {"save: Return in the field goes on", KVT_SaveFileDialog, "txt",
+         Join({kToField, Type("ab"), Key(SDLK_RETURN), Type("c"), kOk}), true, "abc.txt"},
+        {"save: Return on the list fills the field, Return on OK", KVT_SaveFileDialog, "txt",
+         Join({Key(SDLK_RETURN), Key(SDLK_TAB), Key(SDLK_TAB), Key(SDLK_RETURN)}), true,
+         "alpha.txt"},
+        {"save: a clicked name replaces the typed one and is edited", KVT_SaveFileDialog, "txt",
+         Join({kToField, Type("zz"), Click(kListX, kRow0Y), kToField, Key(SDLK_BACKSPACE),
+               Key(SDLK_BACKSPACE), Key(SDLK_BACKSPACE), Key(SDLK_BACKSPACE), Type("2"), kOk}),
+         true, "alpha2.txt"},
+        {"save: quit swallowed, then Return on Cancel", KVT_SaveFileDialog, "txt",
+         Join({{SDL_Event{SDL_QUIT}}, Key(SDLK_TAB), Key(SDLK_TAB), Key(SDLK_TAB),
+               Key(SDLK_RETURN)}), false, "caller's"},
+    };
+    for (const auto &c : cases)
+        ExpectOutcome(Run(c.call, c.extension, c.events), c.answer, c.result, c.what);
+}
+
+TEST_P(FileDialogTest, OkOnTheUntouchedListChoosesTheLastNameTheDirectoryGives)
+{
+    MakeFiles({"a.txt", "b.txt", "c.txt", "d.txt", "e.dat"});
+    std::string last;
+    DIR *listing = opendir(".");
+    for (dirent *entry = readdir(listing); entry != nullptr; entry = readdir(listing))
+        if (strstr(entry->d_name, ".txt") != nullptr)
+            last = entry->d_name;
+    closedir(listing);
+    ExpectOutcome(Run(KVT_OpenFileDialog, "txt", kOk), true, last, "OK on position 0");
+}
+
+// The extension closes the name and also opens it, so the save dialog
+// appends it: the longest result the header allows for.
+TEST_P(FileDialogTest, TheLongestNamesFitTheDocumentedBuffer)
+{
+    std::string extension(KVT_DIALOG_EXTENSION_MAX, 'e');
+    std::string name = extension + std::string(KVT_DIALOG_NAME_MAX - 2 * extension.size(), 'n') +
+                       extension;
+    MakeFiles({name.c_str()});
+    ExpectOutcome(Run(KVT_OpenFileDialog, extension.c_str(), kOk), true, name, "open", true);
+    ExpectOutcome(Run(KVT_SaveFileDialog, extension.c_str(), Join({Click(kListX, kRow0Y), kOk})),
+                  true, name + "." + extension, "save", true);
+}
+
+// With video shut down SDL has no event queue and SDL_WaitEvent fails.
+TEST_P(FileDialogTest, AFailedWaitLeavesTheResultAndTheSurfaceAlone)
+{
+    MakeFiles({"alpha.txt"});
+    SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    Outcome open = Run(KVT_OpenFileDialog, "txt", {});
+    Outcome save = Run(KVT_SaveFileDialog, "txt", {});
+    ASSERT_EQ(SDL_InitSubSystem(SDL_INIT_VIDEO), 0);
+    std::signal(SIGINT, SIG_DFL); // as the test program had them before
+    std::signal(SIGTERM, SIG_DFL);
+    EXPECT_FALSE(open.answer || save.answer);
+    EXPECT_EQ(open.result + "|" + save.result, "caller's|caller's");
+    EXPECT_EQ(open.changedUnder + open.changedBeside + save.changedUnder + save.changedBeside, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFormats, FileDialogTest, ::testing::ValuesIn(kvt_test::AllFormats()),
+                         [](const auto &info) { return kvt_test::FormatName(info.param); });
+
+} // namespace
