@@ -25,10 +25,16 @@ build: deps
 	cmake --build $(BUILD) -j $(JOBS)
 
 # Writes the demo's pictures into demo-out/ (git-ignored); DEMO_ARGS=--window
-# shows them in a window instead.
+# shows them in a window instead. The run's output is kept, so that the
+# list of pictures at the end names only those this run wrote.
 demo: build
-	$(BUILD)/examples/demo/kvt-demo --out demo-out $(DEMO_ARGS)
-	@echo "The demo's pictures are in $(CURDIR)/demo-out/"
+	@{ $(BUILD)/examples/demo/kvt-demo --out demo-out $(DEMO_ARGS); echo $$? >$(BUILD)/demo-status; } \
+	  | tee $(BUILD)/demo-output.txt
+	@test "$$(cat $(BUILD)/demo-status)" = 0
+	@echo
+	@echo "Pictures written (in $(CURDIR)/demo-out/):"
+	@grep '\.png$$' $(BUILD)/demo-output.txt | sed 's|^demo-out/|  |' || echo "  none: this run showed the window"
+	@echo "To run the live version in a window: make demo DEMO_ARGS=--window"
 
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)

@@ -1,10 +1,11 @@
 #ifndef KVT_DEMO_SAMPLE_FOLDER_H
 #define KVT_DEMO_SAMPLE_FOLDER_H
 
-// The files that the lists scene browses. The file widgets read only the
-// current directory, so the scene makes a fresh temporary folder of
-// sample files, works inside it while it lives, and on its end goes back
-// to where it was and removes the folder.
+// The files that the lists scene and the main scene's dialogs browse.
+// The file widgets read only the current directory, so each such scene
+// makes a fresh temporary folder of sample files, works inside it while
+// it lives, and on its end goes back to where it was and removes the
+// folder.
 
 #include <string>
 

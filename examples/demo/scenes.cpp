@@ -10,6 +10,7 @@ const std::vector<Scene> &AllScenes()
         {"buttons", PaintButtonsScene, true, PlayButtonsScene, StartButtonsScene},
         {"controls", PaintControlsScene, true, PlayControlsScene, StartControlsScene},
         {"lists", PaintListsScene, true, PlayListsScene, StartListsScene},
+        {"main", PaintMainScene, true, PlayMainScene, StartMainScene},
     };
     return scenes;
 }

@@ -61,6 +61,10 @@ std::unique_ptr<LiveScene> StartControlsScene(SDL_Surface *screen, Assets &asset
 void PaintListsScene(SDL_Surface *screen, Assets &assets);
 bool PlayListsScene(SDL_Surface *screen, Assets &assets, const std::string &outDir);
 std::unique_ptr<LiveScene> StartListsScene(SDL_Surface *screen, Assets &assets);
+// Every widget and the file dialogs; the window starts on it.
+void PaintMainScene(SDL_Surface *screen, Assets &assets);
+bool PlayMainScene(SDL_Surface *screen, Assets &assets, const std::string &outDir);
+std::unique_ptr<LiveScene> StartMainScene(SDL_Surface *screen, Assets &assets);
 
 } // namespace kvt_demo
 

@@ -50,7 +50,8 @@ void RunWindow(SDL_Surface *screen, Assets &assets, const std::string &firstScen
 {
     const std::vector<Scene> scenes = ScenesFor(assets);
     const size_t count = scenes.size();
-    size_t index = IndexOf(scenes, firstScene);
+    // The main screen first, unless a scene is named.
+    size_t index = IndexOf(scenes, firstScene.empty() ? "main" : firstScene);
     Shown shown(screen, assets);
     shown.Show(scenes[index]);
     SDL_Event event;
