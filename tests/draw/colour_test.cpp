@@ -7,14 +7,14 @@
 
 #include "support/surfaces.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 
 namespace {
 
 // The inline colour form against SDL itself: every pixel value and every
 // colour where a format has 16 bits, a large random sample of values and
 // colours where it has 24 or 32.
-class ColourFormTest : public ::testing::TestWithParam<FormatSpec> {
+class ColourFormTest : public ::testing::TestWithParam<FormatCase> {
 protected:
     void SetUp() override
     {
@@ -65,9 +65,9 @@ TEST_P(ColourFormTest, MapMatchesSdl)
     }
 }
 
-std::vector<FormatSpec> ColourFormats()
+std::vector<FormatCase> ColourFormats()
 {
-    std::vector<FormatSpec> formats = kvt_test::TrueColourFormats();
+    std::vector<FormatCase> formats = kvt_test::TrueColourFormats();
     formats.insert(formats.end(), kvt_test::MoreFormats().begin(), kvt_test::MoreFormats().end());
     return formats;
 }

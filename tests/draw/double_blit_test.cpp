@@ -8,7 +8,7 @@
 
 #include "support/surfaces.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 using kvt_test::ReadColour;
 
@@ -24,7 +24,7 @@ void Set(SDL_Surface *s, int x, int y, KVT_RGBA c)
     KVT_SetPixel(s, Sint16(x), Sint16(y), c.r, c.g, c.b);
 }
 
-class DoubleBlitFormats : public ::testing::TestWithParam<FormatSpec> {};
+class DoubleBlitFormats : public ::testing::TestWithParam<FormatCase> {};
 
 // Random sources (a third of their pixels at or near the key colour) on
 // random targets of every format, at positions that fit or just miss:
@@ -32,7 +32,7 @@ class DoubleBlitFormats : public ::testing::TestWithParam<FormatSpec> {};
 TEST_P(DoubleBlitFormats, FastEqualsPlainOnEveryTargetFormat)
 {
     std::mt19937 rng(321);
-    for (const FormatSpec &targetFormat : kvt_test::AllFormats()) {
+    for (const FormatCase &targetFormat : kvt_test::AllFormats()) {
         for (int trial = 0; trial < 12; ++trial) {
             const int w = 1 + int(rng() % 9), h = 1 + int(rng() % 6);
             GuardedSurface source(GetParam(), w, h);
@@ -72,7 +72,7 @@ void PrintTo(const Blit &blit, std::ostream *out) { *out << blit.name; }
 
 class DoubleBlitRules : public ::testing::TestWithParam<Blit> {
 protected:
-    const FormatSpec &kFormat = kvt_test::AllFormats()[5]; // XRGB32
+    const FormatCase &kFormat = kvt_test::AllFormats()[5]; // XRGB32
 
     // A target whose every pixel has its own colour, not in a straight
     // ramp, so that a mean never equals the pixel between.

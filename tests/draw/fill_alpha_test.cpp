@@ -8,31 +8,31 @@
 
 #include "support/surfaces.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 
 namespace {
 
-bool Everywhere(const FormatSpec &) { return true; }
-bool Paletted(const FormatSpec &f) { return f.bitsPerPixel == 8; }
-bool TrueColour(const FormatSpec &f) { return f.bitsPerPixel > 8; }
-[[maybe_unused]] bool TwoBytes(const FormatSpec &f) { return f.bitsPerPixel == 16; }
+bool Everywhere(const FormatCase &) { return true; }
+bool Paletted(const FormatCase &f) { return f.bitsPerPixel == 8; }
+bool TrueColour(const FormatCase &f) { return f.bitsPerPixel > 8; }
+[[maybe_unused]] bool TwoBytes(const FormatCase &f) { return f.bitsPerPixel == 16; }
 bool IsWholeByte(Uint32 mask)
 {
     return mask == 0xFF || mask == 0xFF00 || mask == 0xFF0000 || mask == 0xFF000000;
 }
-bool ThreeOrFourBytes(const FormatSpec &f)
+bool ThreeOrFourBytes(const FormatCase &f)
 {
     return f.bitsPerPixel >= 24 && IsWholeByte(f.rmask) && IsWholeByte(f.gmask) &&
            IsWholeByte(f.bmask);
 }
 
 #if defined(__SSE2__)
-bool ThreeOrFourBytesOnAvx2(const FormatSpec &f)
+bool ThreeOrFourBytesOnAvx2(const FormatCase &f)
 {
     return ThreeOrFourBytes(f) && __builtin_cpu_supports("avx2");
 }
-bool TwoBytesOnAvx2(const FormatSpec &f) { return TwoBytes(f) && __builtin_cpu_supports("avx2"); }
+bool TwoBytesOnAvx2(const FormatCase &f) { return TwoBytes(f) && __builtin_cpu_supports("avx2"); }
 #endif
 
 // Every fill path, and the formats of the test set that it must accept.
@@ -40,7 +40,7 @@ bool TwoBytesOnAvx2(const FormatSpec &f) { return TwoBytes(f) && __builtin_cpu_s
 struct FillPath {
     const char *name;
     bool (*fill)(SDL_Surface *, const kvt::Area &, KVT_RGBA);
-    bool (*handles)(const FormatSpec &);
+    bool (*handles)(const FormatCase &);
 };
 
 const FillPath kPaths[] = {
@@ -56,7 +56,7 @@ const FillPath kPaths[] = {
 #endif
 };
 
-class FillAlphaTest : public ::testing::TestWithParam<FormatSpec> {};
+class FillAlphaTest : public ::testing::TestWithParam<FormatCase> {};
 
 // Random surfaces, colours, alphas and areas (unaligned starts, widths
 // that leave every kind of tail): each path must give the plain path's

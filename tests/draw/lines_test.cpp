@@ -9,7 +9,7 @@
 #include "support/expected.h"
 #include "support/surfaces.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 using kvt_test::Rect;
 
@@ -63,7 +63,7 @@ const ShapeCase kShapes[] = {
     {"fill off the top left corner", KVT_FillRect, -2, -1, 5, 3, {Rect(0, 0, 3, 2)}},
 };
 
-class LinesTest : public ::testing::TestWithParam<FormatSpec> {};
+class LinesTest : public ::testing::TestWithParam<FormatCase> {};
 
 TEST_P(LinesTest, SolidShapesPaintExactlyTheirPixels)
 {
@@ -139,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(AllFormats, LinesTest, ::testing::ValuesIn(kvt_test::Al
 
 // Worked alphas, checked through the blend over a known background on
 // surfaces whose channels read back exactly.
-class LineAlphaTest : public ::testing::TestWithParam<FormatSpec> {};
+class LineAlphaTest : public ::testing::TestWithParam<FormatCase> {};
 
 struct Plot {
     int x, y, alpha;

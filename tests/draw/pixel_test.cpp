@@ -4,13 +4,13 @@
 
 #include "support/surfaces.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 using kvt_test::ReadColour;
 
 namespace {
 
-class PixelTest : public ::testing::TestWithParam<FormatSpec> {};
+class PixelTest : public ::testing::TestWithParam<FormatCase> {};
 
 // Maps a colour and back, as the surface can hold it.
 KVT_RGBA Representable(SDL_Surface *s, Uint8 r, Uint8 g, Uint8 b)
@@ -95,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(AllFormats, PixelTest, ::testing::ValuesIn(kvt_test::Al
                          [](const auto &info) { return kvt_test::FormatName(info.param); });
 
 // Worked values on surfaces with eight bits per channel.
-class EightBitChannels : public ::testing::TestWithParam<FormatSpec> {};
+class EightBitChannels : public ::testing::TestWithParam<FormatCase> {};
 
 TEST_P(EightBitChannels, BlendWorkedValues)
 {

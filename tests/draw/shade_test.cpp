@@ -9,7 +9,7 @@
 #include "support/surfaces.h"
 
 using kvt_test::ExpectedPixels;
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 
 namespace {
@@ -32,7 +32,7 @@ void PaintRamp(SDL_Surface *s, ExpectedPixels *want, int x, int y, int dx, int d
         want->Set(x + i * dx, y + i * dy, RampValue(s, first, last, n, i));
 }
 
-class ShadeTest : public ::testing::TestWithParam<FormatSpec> {};
+class ShadeTest : public ::testing::TestWithParam<FormatCase> {};
 
 // A shaded line at `across` from `at` over `length`; the ramp should cover
 // [start, start + count), spread over those pixels. The square surface

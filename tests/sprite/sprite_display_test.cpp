@@ -12,7 +12,7 @@
 #include "support/surfaces.h"
 
 using kvt_test::ExpectedPixels;
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 using kvt_test::kClearPixel;
 
@@ -39,7 +39,7 @@ const kvt_test::SpritePicture kPicture = {
      0xFF0000, 0x123456,    0x654321, 0xFEDCBA, 0x0F0F0F,
      kClearPixel, 0x777777, 0x888888, 0x999999, kClearPixel}};
 
-class SpriteDisplayFormats : public ::testing::TestWithParam<FormatSpec> {
+class SpriteDisplayFormats : public ::testing::TestWithParam<FormatCase> {
 protected:
     void SetUp() override
     {

@@ -12,7 +12,7 @@
 #include "support/surfaces.h"
 #include "support/temp_file.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 using kvt_test::kClearPixel;
 using kvt_test::SpriteRecord;
@@ -45,7 +45,7 @@ const std::vector<Uint32> kExamplePixels = {kClearPixel, 0xFF0000, 0x00FF00,
 
 bool IsEmpty(const KVT_Sprite &s) { return s.frames == nullptr && s.nbFrames == 0; }
 
-class SpriteLoadFormats : public ::testing::TestWithParam<FormatSpec> {
+class SpriteLoadFormats : public ::testing::TestWithParam<FormatCase> {
 protected:
     GuardedSurface formatHolder{GetParam(), 1, 1};
     const SDL_PixelFormat *format = formatHolder.get()->format;

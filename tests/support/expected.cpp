@@ -6,12 +6,12 @@
 
 namespace kvt_test {
 
-std::vector<FormatSpec> EightBitChannelFormats()
+std::vector<FormatCase> EightBitChannelFormats()
 {
-    std::vector<FormatSpec> out;
-    for (const FormatSpec &spec : AllFormats())
-        if (spec.bitsPerPixel >= 24)
-            out.push_back(spec);
+    std::vector<FormatCase> out;
+    for (const FormatCase &pixelFormat : AllFormats())
+        if (pixelFormat.bitsPerPixel >= 24)
+            out.push_back(pixelFormat);
     return out;
 }
 

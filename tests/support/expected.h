@@ -16,7 +16,7 @@ namespace kvt_test {
 
 // Formats with eight bits in every channel, where a worked colour value
 // reads back exactly.
-std::vector<FormatSpec> EightBitChannelFormats();
+std::vector<FormatCase> EightBitChannelFormats();
 
 // An SDL_Rect from ints, narrowed as SDL stores them.
 SDL_Rect Rect(int x, int y, int w, int h);

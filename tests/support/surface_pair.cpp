@@ -6,7 +6,7 @@
 
 namespace kvt_test {
 
-SurfacePair::SurfacePair(const FormatSpec &format, int width, int height, unsigned seed,
+SurfacePair::SurfacePair(const FormatCase &format, int width, int height, unsigned seed,
                          int rowPadding)
     : actual(format, width, height, rowPadding), expected(format, width, height, rowPadding)
 {

@@ -17,7 +17,7 @@ class SurfacePair {
 public:
     // SDL's own blits (sprites, saved regions) want a pitch of whole
     // pixels: tests that use them pass a rowPadding of 4.
-    SurfacePair(const FormatSpec &format, int width, int height, unsigned seed = 7,
+    SurfacePair(const FormatCase &format, int width, int height, unsigned seed = 7,
                 int rowPadding = 5);
 
     GuardedSurface actual, expected;

@@ -5,9 +5,9 @@
 
 namespace kvt_test {
 
-const std::vector<FormatSpec> &AllFormats()
+const std::vector<FormatCase> &AllFormats()
 {
-    static const std::vector<FormatSpec> formats = {
+    static const std::vector<FormatCase> formats = {
         {"Index8", 8, 0, 0, 0, 0},
         {"RGB565", 16, 0xF800, 0x07E0, 0x001F, 0},
         {"RGB555", 16, 0x7C00, 0x03E0, 0x001F, 0},
@@ -20,18 +20,18 @@ const std::vector<FormatSpec> &AllFormats()
     return formats;
 }
 
-std::vector<FormatSpec> TrueColourFormats()
+std::vector<FormatCase> TrueColourFormats()
 {
-    std::vector<FormatSpec> out;
-    for (const FormatSpec &spec : AllFormats())
-        if (spec.bitsPerPixel > 8)
-            out.push_back(spec);
+    std::vector<FormatCase> out;
+    for (const FormatCase &pixelFormat : AllFormats())
+        if (pixelFormat.bitsPerPixel > 8)
+            out.push_back(pixelFormat);
     return out;
 }
 
-const std::vector<FormatSpec> &MoreFormats()
+const std::vector<FormatCase> &MoreFormats()
 {
-    static const std::vector<FormatSpec> formats = {
+    static const std::vector<FormatCase> formats = {
         {"RGBA4444", 16, 0xF000, 0x0F00, 0x00F0, 0x000F},
         {"ARGB32", 32, 0x00FF0000, 0x0000FF00, 0x000000FF, 0xFF000000},
         {"RGB666in32", 32, 0x3F000, 0x00FC0, 0x0003F, 0},
@@ -39,9 +39,9 @@ const std::vector<FormatSpec> &MoreFormats()
     return formats;
 }
 
-std::string FormatName(const FormatSpec &spec) { return spec.name; }
+std::string FormatName(const FormatCase &pixelFormat) { return pixelFormat.name; }
 
-void PrintTo(const FormatSpec &spec, std::ostream *out) { *out << spec.name; }
+void PrintTo(const FormatCase &pixelFormat, std::ostream *out) { *out << pixelFormat.name; }
 
 // A 3-3-2 palette: every one of the 256 entries is used and distinct.
 static void SetFullPalette(SDL_Surface *surface)
@@ -56,16 +56,16 @@ static void SetFullPalette(SDL_Surface *surface)
     SDL_SetColors(surface, colours, 0, 256);
 }
 
-GuardedSurface::GuardedSurface(const FormatSpec &spec, int width, int height, int rowPadding)
+GuardedSurface::GuardedSurface(const FormatCase &pixelFormat, int width, int height, int rowPadding)
 {
-    int bytes = spec.bitsPerPixel / 8;
+    int bytes = pixelFormat.bitsPerPixel / 8;
     rowBytes_ = width * bytes;
     int pitch = rowBytes_ + rowPadding;
     memory_.assign(size_t(kGuardBytes * 2 + pitch * height), kGuard);
     surface_ = SDL_CreateRGBSurfaceFrom(memory_.data() + kGuardBytes, width, height,
-                                        spec.bitsPerPixel, pitch, spec.rmask, spec.gmask,
-                                        spec.bmask, spec.amask);
-    if (spec.bitsPerPixel == 8)
+                                        pixelFormat.bitsPerPixel, pitch, pixelFormat.rmask, pixelFormat.gmask,
+                                        pixelFormat.bmask, pixelFormat.amask);
+    if (pixelFormat.bitsPerPixel == 8)
         SetFullPalette(surface_);
 }
 

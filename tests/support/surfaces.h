@@ -18,7 +18,7 @@
 
 namespace kvt_test {
 
-struct FormatSpec {
+struct FormatCase {
     const char *name;
     int bitsPerPixel;
     Uint32 rmask, gmask, bmask, amask;
@@ -26,20 +26,20 @@ struct FormatSpec {
 
 // 8 bpp with a full 256-colour palette; 16 bpp 5-6-5 and 5-5-5; 24 bpp in
 // both byte orders; 32 bpp in two channel orders plus one with alpha.
-const std::vector<FormatSpec> &AllFormats();
+const std::vector<FormatCase> &AllFormats();
 // The true-colour subset (no palette).
-std::vector<FormatSpec> TrueColourFormats();
+std::vector<FormatCase> TrueColourFormats();
 // Rarer formats that the fast paths must still get right: 4-4-4-4 with
 // alpha, alpha in the top byte of 32 bits, 6-6-6 channels in 32 bits.
-const std::vector<FormatSpec> &MoreFormats();
+const std::vector<FormatCase> &MoreFormats();
 
 // For INSTANTIATE_TEST_SUITE_P names, and for GoogleTest's printing.
-std::string FormatName(const FormatSpec &spec);
-void PrintTo(const FormatSpec &spec, std::ostream *out);
+std::string FormatName(const FormatCase &pixelFormat);
+void PrintTo(const FormatCase &pixelFormat, std::ostream *out);
 
 class GuardedSurface {
 public:
-    GuardedSurface(const FormatSpec &spec, int width, int height, int rowPadding = 5);
+    GuardedSurface(const FormatCase &pixelFormat, int width, int height, int rowPadding = 5);
     ~GuardedSurface();
     GuardedSurface(const GuardedSurface &) = delete;
     GuardedSurface &operator=(const GuardedSurface &) = delete;

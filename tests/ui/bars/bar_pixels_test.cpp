@@ -7,7 +7,7 @@
 #include "support/surface_pair.h"
 #include "support/theme.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::SurfacePair;
 
 namespace {
@@ -28,7 +28,7 @@ void PaintBlock(SDL_Surface *surface, CUITheme *theme, int x, int y, int w, int 
 }
 
 // SDL blits put the track back: rows of whole pixels, a padding of 4.
-class BarPixels : public ::testing::TestWithParam<FormatSpec> {
+class BarPixels : public ::testing::TestWithParam<FormatCase> {
 protected:
     CUITheme theme = kvt_test::DistinctTheme();
 };
@@ -66,7 +66,7 @@ TEST_P(BarPixels, ValueBarFillShrinksAndRests)
     EXPECT_EQ("", s.Difference());
 }
 
-std::vector<FormatSpec> SomeFormats()
+std::vector<FormatCase> SomeFormats()
 {
     const auto &all = kvt_test::AllFormats();
     return {all[0], all[1], all[3], all[7]};

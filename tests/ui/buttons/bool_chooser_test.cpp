@@ -8,7 +8,7 @@
 #include "support/surface_pair.h"
 #include "support/theme.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::SurfacePair;
 
 namespace {
@@ -23,7 +23,7 @@ constexpr int kPadding = 4;
 const char kCaption[] = "AB!";
 const KVT_RGBA kOn = KVT_RGB(0, 255, 0, 0), kOff = KVT_RGB(255, 0, 0, 0);
 
-class BoolChooserPixels : public ::testing::TestWithParam<FormatSpec> {
+class BoolChooserPixels : public ::testing::TestWithParam<FormatCase> {
 protected:
     void SetUp() override
     {

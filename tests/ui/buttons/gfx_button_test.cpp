@@ -12,7 +12,7 @@
 #include "support/surface_pair.h"
 #include "support/theme.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::kClearPixel;
 using kvt_test::SpritePicture;
 using kvt_test::SurfacePair;
@@ -31,7 +31,7 @@ const std::vector<SpritePicture> kPictures = {
     {2, 2, 0, 0, {C, C, o, C}},
 };
 
-class GfxButtonPixels : public ::testing::TestWithParam<FormatSpec> {
+class GfxButtonPixels : public ::testing::TestWithParam<FormatCase> {
 protected:
     void SetUp() override
     {

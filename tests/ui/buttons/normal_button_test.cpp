@@ -13,7 +13,7 @@
 #include "support/surface_pair.h"
 #include "support/theme.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::SurfacePair;
 
 namespace {
@@ -23,7 +23,7 @@ namespace {
 constexpr int kLeft = 6, kTop = 3, kW = 16, kH = 12;
 constexpr int kPad = 4; // row padding: SDL's keyed blits want whole-pixel pitches
 
-class PressButtonPixels : public ::testing::TestWithParam<FormatSpec> {
+class PressButtonPixels : public ::testing::TestWithParam<FormatCase> {
 protected:
     void SetUp() override
     {

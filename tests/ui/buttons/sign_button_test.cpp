@@ -7,7 +7,7 @@
 #include "support/surface_pair.h"
 #include "support/theme.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::SurfacePair;
 
 namespace {
@@ -55,7 +55,7 @@ void PaintExpectedArrow(SDL_Surface *surface, const ArrowCase &a, KVT_RGBA colou
         }
 }
 
-class SignButtonPixels : public ::testing::TestWithParam<FormatSpec> {
+class SignButtonPixels : public ::testing::TestWithParam<FormatCase> {
 protected:
     CUITheme theme = kvt_test::DistinctTheme();
 };

@@ -11,7 +11,7 @@
 #include "support/theme.h"
 
 using kvt_test::ExpectedPixels;
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 using kvt_test::RecordingWidget;
 
@@ -54,7 +54,7 @@ TEST(ObjectDefaults, UnsharedMessagesAnswerFalseAndFocusOutBeforeDrawRestoresNot
     EXPECT_EQ(before.Differences(surface), "");
 }
 
-class FocusRingAtFormat : public ::testing::TestWithParam<FormatSpec> {};
+class FocusRingAtFormat : public ::testing::TestWithParam<FormatCase> {};
 
 // The focus frame lies on the one-pixel ring around the widget; hiding it
 // puts back exactly what lay there, also where the ring leaves the surface.

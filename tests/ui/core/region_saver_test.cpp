@@ -8,7 +8,7 @@
 #include "support/surfaces.h"
 
 using kvt_test::ExpectedPixels;
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 
 namespace {
@@ -24,7 +24,7 @@ TEST(RegionSaver, RestoreBeforeAnySaveFailsAndASecondSaveReplacesTheFirst)
     EXPECT_EQ(saver.image->w * 100 + saver.image->h, 504) << "the image is not the second one";
 }
 
-class RegionSaverAtFormat : public ::testing::TestWithParam<FormatSpec> {};
+class RegionSaverAtFormat : public ::testing::TestWithParam<FormatCase> {};
 
 // Save, scribble over everything, restore: the saved part of the rectangle
 // comes back byte for byte, nothing else changes, and the caller's surface

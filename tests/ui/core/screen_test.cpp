@@ -14,7 +14,7 @@
 #include "support/theme.h"
 
 using kvt_test::ExpectedPixels;
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 using kvt_test::Message;
 using kvt_test::RecordingWidget;
@@ -185,7 +185,7 @@ TEST(ScreenDispatch, TabOnALoneWidgetTakesTheFocusAwayAndGivesItBack)
     EXPECT_EQ(bench.screen->focusWidget, 0);
 }
 
-class ScreenFocusFrameAtFormat : public ::testing::TestWithParam<FormatSpec> {};
+class ScreenFocusFrameAtFormat : public ::testing::TestWithParam<FormatCase> {};
 
 // Tab all the way round a screen whose widgets touch the surface's edges:
 // each step shows exactly one frame, on the focused widget, and writes

@@ -12,7 +12,7 @@
 #include "support/temp_file.h"
 
 using kvt_test::ExpectedPixels;
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
 using kvt_test::TempFile;
 
@@ -116,7 +116,7 @@ TEST(ThemeFrames, EachFrameUsesItsTriple)
         {CUIFrame::Sunken, t.activeLast, t.activeMid, t.activeFirst},
         {CUIFrame::SunkenRest, t.restLast, t.restMid, t.restFirst},
     };
-    const FormatSpec format = kvt_test::EightBitChannelFormats()[0];
+    const FormatCase format = kvt_test::EightBitChannelFormats()[0];
     for (const auto &f : frames) {
         GuardedSurface drawn(format, 12, 9), shaded(format, 12, 9);
         t.DrawFrame(drawn, 2, 1, 8, 6, f.frame);
@@ -128,7 +128,7 @@ TEST(ThemeFrames, EachFrameUsesItsTriple)
 // Tiles lie on a grid anchored at the surface's origin: every painted
 // pixel (x, y) shows tile pixel (x % W, y % H). The tile's columns and
 // rows all hold different values, so any misplaced source shows.
-class ThemeBackground : public ::testing::TestWithParam<FormatSpec> {};
+class ThemeBackground : public ::testing::TestWithParam<FormatCase> {};
 
 TEST_P(ThemeBackground, TilesFollowTheOriginGrid)
 {

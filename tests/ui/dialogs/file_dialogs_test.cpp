@@ -121,7 +121,7 @@ std::string ChangedUnderDialog(const kvt_test::GuardedSurface &surface,
 
 // Every test runs at every depth over a surface of random bytes, which
 // each dialog must leave as it found it whatever the outcome.
-class FileDialogTest : public ::testing::TestWithParam<kvt_test::FormatSpec> {
+class FileDialogTest : public ::testing::TestWithParam<kvt_test::FormatCase> {
 protected:
     void SetUp() override
     {

@@ -57,7 +57,7 @@ struct Folder {
     }
 };
 
-class DialogBody : public ::testing::TestWithParam<kvt_test::FormatSpec> {
+class DialogBody : public ::testing::TestWithParam<kvt_test::FormatCase> {
 protected:
     void SetUp() override
     {

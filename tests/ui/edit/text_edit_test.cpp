@@ -13,7 +13,7 @@
 #include "support/surface_pair.h"
 #include "support/theme.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 using kvt_test::SurfacePair;
 
 namespace {
@@ -24,7 +24,7 @@ namespace {
 constexpr int kX = 3, kY = 2, kW = 60, kH = 10;
 constexpr int kSurfaceW = kW + 6, kSurfaceH = kH + 5, kPadding = 4;
 
-class TextEditTest : public ::testing::TestWithParam<FormatSpec> {
+class TextEditTest : public ::testing::TestWithParam<FormatCase> {
 protected:
     void SetUp() override
     {

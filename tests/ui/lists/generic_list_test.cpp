@@ -44,7 +44,7 @@ struct Bench {
     CUITheme theme = kvt_test::DistinctTheme();
     kvt_test::SurfacePair pair;
     LoggingList list;
-    Bench(int nbEl, int base = 0, const kvt_test::FormatSpec &format = kvt_test::AllFormats()[5],
+    Bench(int nbEl, int base = 0, const kvt_test::FormatCase &format = kvt_test::AllFormats()[5],
           int rowHeight = kRow)
         : pair(format, 110, 70, 7, 4), list(&theme, nbEl, rowHeight)
     {
@@ -165,7 +165,7 @@ const MarkCase kMarks[] = {
     {"rows taller than the list: no row, no mark", 20, 0, 0, kH + 1},
 };
 
-class GenericListPixels : public ::testing::TestWithParam<kvt_test::FormatSpec> {};
+class GenericListPixels : public ::testing::TestWithParam<kvt_test::FormatCase> {};
 
 TEST_P(GenericListPixels, SelectionMarkOnlyWhenInView)
 {

@@ -12,7 +12,7 @@
 #include "support/surface_pair.h"
 #include "support/theme.h"
 
-using kvt_test::FormatSpec;
+using kvt_test::FormatCase;
 
 namespace {
 
@@ -35,7 +35,7 @@ const RowsCase kCases[] = {
      {"ab", "cd"}, 2, 0, "new", {"new", "cd"}},
 };
 
-class StringListPixels : public ::testing::TestWithParam<FormatSpec> {
+class StringListPixels : public ::testing::TestWithParam<FormatCase> {
 protected:
     void SetUp() override
     {

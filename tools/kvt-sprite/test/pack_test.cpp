@@ -147,19 +147,19 @@ TEST_F(PackTest, WritesTheLeastBlockSizeAndTheFewestRuns)
 
 TEST_F(PackTest, LoadGivesThePixelsAnchorsAndTagsAtEveryFormat)
 {
-    for (const kvt_test::FormatSpec &spec : kvt_test::AllFormats()) {
-        kvt_test::GuardedSurface holder(spec, 1, 1);
+    for (const kvt_test::FormatCase &pixelFormat : kvt_test::AllFormats()) {
+        kvt_test::GuardedSurface holder(pixelFormat, 1, 1);
         KVT_Sprite loaded;
-        ASSERT_TRUE(loaded.Load(sprite.c_str(), holder.get()->format)) << spec.name;
-        ASSERT_EQ(inputs.size(), loaded.GetNbFrames()) << spec.name;
+        ASSERT_TRUE(loaded.Load(sprite.c_str(), holder.get()->format)) << pixelFormat.name;
+        ASSERT_EQ(inputs.size(), loaded.GetNbFrames()) << pixelFormat.name;
         for (size_t i = 0; i < inputs.size(); ++i) {
             const KVT_SpriteFrame &frame = loaded.frames[i];
-            EXPECT_EQ(inputs[i].hotX, frame.hotX) << spec.name << " frame " << i;
-            EXPECT_EQ(inputs[i].hotY, frame.hotY) << spec.name << " frame " << i;
-            EXPECT_EQ(inputs[i].tag, frame.tag) << spec.name << " frame " << i;
+            EXPECT_EQ(inputs[i].hotX, frame.hotX) << pixelFormat.name << " frame " << i;
+            EXPECT_EQ(inputs[i].hotY, frame.hotY) << pixelFormat.name << " frame " << i;
+            EXPECT_EQ(inputs[i].tag, frame.tag) << pixelFormat.name << " frame " << i;
             EXPECT_EQ("", kvt_test::FrameDifference(frame.surface, holder.get()->format,
                                                     inputs[i].width, inputs[i].Frame().pixels))
-                << spec.name << " frame " << i << " from " << inputs[i].name;
+                << pixelFormat.name << " frame " << i << " from " << inputs[i].name;
         }
         loaded.FreeFrames();
     }
