@@ -10,17 +10,7 @@ set -u
 DEMO=$1
 . "$(dirname "$0")/x_session.sh"
 
-xs_require Xvfb xdotool timeout
-xs_start_server
-
-OUT=$XS_WORK/out
-timeout 60 "$DEMO" --window --scene buttons >"$OUT" 2>"$XS_WORK/err" &
-DEMO_PID=$!
-WINDOW=$(xs_focus_window '^kvt demo$' "$DEMO_PID") || {
-    echo "the demo's window could not be found and focused:" >&2
-    cat "$XS_WORK/err" >&2
-    exit 1
-}
+xs_start_demo "$DEMO" buttons
 
 # Centres of the widgets, in window coordinates, as the scene lays them out.
 CANCEL="196 119"
@@ -36,25 +26,17 @@ key() { xs_do key "$@"; }
 # events it has taken in, not the one being handled: Shift is held well
 # before the Tab and let go well after it.
 shift_tab() { xs_do keydown Shift_L && sleep 0.3 && key Tab && sleep 0.3 && xs_do keyup Shift_L; }
-# Waits until the demo has printed at least $1 lines.
-settle() {
-    tries=0
-    while [ "$(wc -l <"$OUT")" -lt "$1" ] && [ $tries -lt 100 ]; do
-        sleep 0.1
-        tries=$((tries + 1))
-    done
-}
 
 click "$CANCEL"                                    # focus, click
 click "$PICTURE"                                   # focus, value 1, click
 click "$SOUND"                                     # focus, value on, click
 point "$APPLY"; xs_do mousedown 1; point "$EMPTY"; xs_do mouseup 1   # focus, no click
 key Tab Tab Return                                 # gem, picture, value 2 and no click
-settle 12; shift_tab; key Return                   # back to gem, Return clicks it
+xs_settle 12; shift_tab; key Return                   # back to gem, Return clicks it
 key Tab Tab Tab Tab Tab Tab Return                 # on to sound, value off and no click
 key Tab Return                                     # round to ok, click
-settle 23; shift_tab                               # back round to sound
-settle 24
+xs_settle 23; shift_tab                               # back round to sound
+xs_settle 24
 key Escape
 
 tries=0

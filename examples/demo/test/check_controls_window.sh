@@ -12,17 +12,7 @@ set -u
 DEMO=$1
 . "$(dirname "$0")/x_session.sh"
 
-xs_require Xvfb xdotool timeout
-xs_start_server
-
-OUT=$XS_WORK/out
-timeout 60 "$DEMO" --window --scene controls >"$OUT" 2>"$XS_WORK/err" &
-DEMO_PID=$!
-WINDOW=$(xs_focus_window '^kvt demo$' "$DEMO_PID") || {
-    echo "the demo's window could not be found and focused:" >&2
-    cat "$XS_WORK/err" >&2
-    exit 1
-}
+xs_start_demo "$DEMO" controls
 
 # In window coordinates, as the scene lays them out: the middle of the
 # name field, and of the scroll bar's down button.
@@ -30,23 +20,15 @@ NAME="286 178"
 SCROLL_DOWN="144 270"
 
 click() { xs_do mousemove --window "$WINDOW" $1 && sleep 0.1 && xs_do click 1; }
-# Waits until the demo has printed at least $1 lines.
-settle() {
-    tries=0
-    while [ "$(wc -l <"$OUT")" -lt "$1" ] && [ $tries -lt 100 ]; do
-        sleep 0.1
-        tries=$((tries + 1))
-    done
-}
 
 click "$NAME"
-settle 1
+xs_settle 1
 # The space must type too: the window keeps Space for itself only where
 # no text field has the focus.
 xs_do type --delay 50 "Hi kvt"
-settle 7
+xs_settle 7
 click "$SCROLL_DOWN"
-settle 9
+xs_settle 9
 xs_do key Escape
 
 tries=0

@@ -14,17 +14,7 @@ set -u
 DEMO=$1
 . "$(dirname "$0")/x_session.sh"
 
-xs_require Xvfb xdotool timeout
-xs_start_server
-
-OUT=$XS_WORK/out
-timeout 60 "$DEMO" --window --scene main >"$OUT" 2>"$XS_WORK/err" &
-DEMO_PID=$!
-WINDOW=$(xs_focus_window '^kvt demo$' "$DEMO_PID") || {
-    echo "the demo's window could not be found and focused:" >&2
-    cat "$XS_WORK/err" >&2
-    exit 1
-}
+xs_start_demo "$DEMO" main
 
 # In window coordinates, as the main scene lays them out: its two buttons,
 # and in the dialog (140, 70, 360x340) the first row of the list, the save
@@ -36,14 +26,6 @@ FIELD="320 354"
 OK="230 392"
 
 click() { xs_do mousemove --window "$WINDOW" $1 && sleep 0.2 && xs_do click 1 && sleep 0.2; }
-# Waits until the demo has printed at least $1 lines.
-settle() {
-    tries=0
-    while [ "$(wc -l <"$OUT")" -lt "$1" ] && [ $tries -lt 100 ]; do
-        sleep 0.1
-        tries=$((tries + 1))
-    done
-}
 save_as() {
     click "$SAVE"; sleep 0.5
     click "$FIELD"; xs_do type --delay 50 "$1"; sleep 0.3
@@ -53,11 +35,11 @@ save_as() {
 click "$OPEN"; sleep 0.5
 click "$FIRST_ROW"
 click "$OK"
-settle 1
+xs_settle 1
 save_as story
-settle 2
+xs_settle 2
 save_as notes.txt
-settle 3
+xs_settle 3
 xs_do key Escape
 
 tries=0

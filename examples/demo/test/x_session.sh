@@ -9,6 +9,10 @@
 #   xs_focus_window NAME PID finds the window titled NAME, gives it the
 #                            keyboard focus and prints its id; false when
 #                            that failed for 10 tries or PID has ended
+#   xs_start_demo DEMO SCENE starts the demo's window on SCENE with its
+#                            stdout in $OUT, focuses it and sets DEMO_PID
+#                            and WINDOW; skips or fails as the above do
+#   xs_settle N              waits (10 s at most) until $OUT has N lines
 #
 # SDL 1.2 on a bare X server has no window manager to give its window the
 # focus, so the window is focused explicitly before any key is sent.
@@ -64,4 +68,25 @@ xs_focus_window() {
         sleep 0.5
     done
     return 1
+}
+
+xs_start_demo() {
+    xs_require Xvfb xdotool timeout
+    xs_start_server
+    OUT=$XS_WORK/out
+    timeout 60 "$1" --window --scene "$2" >"$OUT" 2>"$XS_WORK/err" &
+    DEMO_PID=$!
+    WINDOW=$(xs_focus_window '^kvt demo$' "$DEMO_PID") || {
+        echo "the demo's window could not be found and focused:" >&2
+        cat "$XS_WORK/err" >&2
+        exit 1
+    }
+}
+
+xs_settle() {
+    tries=0
+    while [ "$(wc -l <"$OUT")" -lt "$1" ] && [ $tries -lt 100 ]; do
+        sleep 0.1
+        tries=$((tries + 1))
+    done
 }
