@@ -8,34 +8,24 @@
 // its reports panel. The headless script and the window drive the same
 // object.
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include <SDL.h>
-
-#include <kvt/ui/core/screen.h>
-#include <kvt/util/list.h>
 
 #include "assets.h"
 #include "sample_folder.h"
 #include "scene_parts.h"
 #include "scenes.h"
+#include "widget_board.h"
 
 namespace kvt_demo {
-
-// The widgets by index in the screen's array, which is also the Tab order.
-enum MainWidget {
-    kOpenButton, kSaveButton, kGfxButton, kMultiGfxButton, kLeftSign, kRightSign, kBoolChooser,
-    kTextField, kValueBar, kStringList, kScrollBar, kFileLister, kFileChooser, kMainWidgets
-};
 
 class MainScene : public LiveScene {
 public:
     // Where the dialogs stand, what they list, and what the save dialog
     // adds to a name that lacks it.
     static const SDL_Rect kDialog;
-    static constexpr const char *kExtension = "txt";
+    static constexpr const char *kExtension = WidgetBoard::kExtension;
     static const int kDialogRowHeight = 16; // the dialogs' list rows
     static const int kDialogBarWidth = 21;  // the dialogs' list bar, on its left
 
@@ -50,19 +40,15 @@ public:
     // Typing in the field, and the arrows on the bars and the chooser.
     bool KeepsKey(SDLKey key) const override;
 
-    static SDL_Rect WidgetRect(int widget);
     // The modal dialogs, reported; they answer what the library answered.
     bool RunOpenDialog(SDL_Surface *screen);
     bool RunSaveDialog(SDL_Surface *screen);
 
 private:
-    // First, so that the widgets scan inside it and go before it does.
+    // First, so that the file widgets scan inside it and go before it does.
     SampleFolder folder_;
     Assets &assets_;
-    std::vector<std::string> entryTexts_;
-    List entries_; // points into entryTexts_
-    CUIScreen screen_;
-    std::unique_ptr<CUIObject> widgets_[kMainWidgets];
+    WidgetBoard board_;
     ReportLog log_;
 };
 

@@ -71,14 +71,24 @@ GuardedSurface::GuardedSurface(const FormatCase &pixelFormat, int width, int hei
 
 GuardedSurface::~GuardedSurface() { SDL_FreeSurface(surface_); }
 
+// Looks only at the bytes that must keep their guard value: the two guard
+// blocks and each row's padding, so that a check costs little next to a
+// drawing call.
 bool GuardedSurface::GuardsIntact() const
 {
     const Uint8 *base = memory_.data();
-    size_t pixelsEnd = kGuardBytes + size_t(surface_->pitch) * surface_->h;
-    for (size_t i = 0; i < memory_.size(); ++i) {
-        bool inPixels = i >= size_t(kGuardBytes) && i < pixelsEnd &&
-                        int((i - kGuardBytes) % surface_->pitch) < rowBytes_;
-        if (!inPixels && base[i] != kGuard)
+    const size_t pixelsEnd = kGuardBytes + size_t(surface_->pitch) * surface_->h;
+    auto untouched = [base](size_t from, size_t to) {
+        for (size_t i = from; i < to; ++i)
+            if (base[i] != kGuard)
+                return false;
+        return true;
+    };
+    if (!untouched(0, kGuardBytes) || !untouched(pixelsEnd, memory_.size()))
+        return false;
+    for (int y = 0; y < surface_->h; ++y) {
+        const size_t row = kGuardBytes + size_t(surface_->pitch) * y;
+        if (!untouched(row + rowBytes_, row + surface_->pitch))
             return false;
     }
     return true;
