@@ -12,6 +12,7 @@
 
 #include <kvt/ui/dialogs/file_dialogs.h>
 
+#include "support/event_script.h"
 #include "support/events.h"
 #include "support/sprite_file.h"
 #include "support/surfaces.h"
@@ -291,6 +292,52 @@ TEST_P(FileDialogTest, AFailedWaitLeavesTheResultAndTheSurfaceAlone)
     EXPECT_FALSE(open.answer || save.answer);
     EXPECT_EQ(open.result + "|" + save.result, "caller's|caller's");
     EXPECT_EQ(open.changedUnder + open.changedBeside + save.changedUnder + save.changedBeside, "");
+}
+
+// What would end a dialog before the end of a batch: the keys that press
+// the focused widget, and the pointer anywhere on the buttons' row.
+bool MayEndTheDialog(const SDL_Event &event)
+{
+    if (event.type == SDL_KEYDOWN) {
+        const SDLKey sym = event.key.keysym.sym;
+        return sym == SDLK_RETURN || sym == SDLK_KP_ENTER || sym == SDLK_SPACE;
+    }
+    const bool button = event.type == SDL_MOUSEBUTTONDOWN || event.type == SDL_MOUSEBUTTONUP;
+    return button && event.button.y >= kButtonsY - 16 && event.button.y < kY + kH;
+}
+
+// Batches of random events, from a fixed seed, each ending in OK or
+// Cancel: the batch scrolls, picks, types and moves the focus, and then
+// the caller's buffer and surface must have kept their bounds and the
+// dialog's rectangle must come back.
+TEST_P(FileDialogTest, RandomBatchesEndingInOkOrCancel)
+{
+    MakeFiles({"alpha.txt", "beta.txt", "gamma.dat", "delta.txt", "a much longer name.txt"});
+    ASSERT_TRUE(dir.MakeDir("folder.txt"));
+    std::mt19937 rng(20261123);
+    for (int round = 0; round < 40; ++round) {
+        std::vector<Uint8> bytes(kvt_test::kStepBytes * (rng() % 100));
+        for (Uint8 &byte : bytes)
+            byte = Uint8(rng());
+        Events batch;
+        for (const auto &step :
+             kvt_test::DecodeEventScript(bytes.data(), bytes.size(), kSurfaceW, kSurfaceH))
+            if (!MayEndTheDialog(step.event))
+                batch.push_back(step.event);
+        const bool ok = (rng() & 1) != 0, open = (round & 1) != 0;
+        batch = Join({batch, ok ? kOk : kCancel});
+        const Outcome got =
+            Run(open ? KVT_OpenFileDialog : KVT_SaveFileDialog, "txt", batch);
+        const std::string what = std::string(open ? "open" : "save") + " round " +
+                                 std::to_string(round) + (ok ? " ending in OK" : " ending in Cancel");
+        EXPECT_EQ(got.leftInQueue, "") << what << ": it did not end on the last click";
+        EXPECT_TRUE(ok || !got.answer) << what;
+        EXPECT_LT(got.result.size(), size_t(KVT_DIALOG_RESULT_SIZE)) << what;
+        EXPECT_EQ(got.changedUnder, "") << what << ": the dialog's rectangle was not put back";
+        EXPECT_EQ(got.changedBeside, "") << what << ": the dialog drew beside its rectangle";
+        EXPECT_TRUE(got.spareIntact) << what << ": wrote past KVT_DIALOG_RESULT_SIZE";
+        EXPECT_TRUE(surface.GuardsIntact()) << what;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, FileDialogTest, ::testing::ValuesIn(kvt_test::AllFormats()),
