@@ -10,6 +10,7 @@
 
 #include "support/sprite_file.h"
 #include "support/surfaces.h"
+#include "support/temp_dir.h"
 #include "support/temp_file.h"
 
 using kvt_test::FormatCase;
@@ -143,15 +144,28 @@ protected:
     const SDL_PixelFormat *format = formatHolder.get()->format;
 };
 
-TEST_F(SpriteFile, UnopenableFileFailsWithTheSpriteUntouched)
+// A path that does not open fails before anything changes; a directory
+// opens but cannot be read, so it fails as a damaged file does, with the
+// sprite empty.
+TEST_F(SpriteFile, UnreadablePathsFail)
 {
-    KVT_SpriteFrame frame = {};
-    KVT_Sprite sprite;
-    sprite.frames = &frame;
-    sprite.nbFrames = 7;
-    EXPECT_FALSE(sprite.Load("/nonexistent-folder/sprite.spr", format));
-    EXPECT_EQ(&frame, sprite.frames);
-    EXPECT_EQ(7u, sprite.nbFrames);
+    kvt_test::TempCurrentDir folder;
+    ASSERT_TRUE(folder.ok() && folder.MakeDir("folder.spr"));
+    const struct {
+        const char *path;
+        bool untouched;
+    } cases[] = {{"/nonexistent-folder/sprite.spr", true}, {"folder.spr", false}, {".", false}};
+    for (const auto &c : cases) {
+        KVT_SpriteFrame frame = {};
+        KVT_Sprite sprite;
+        sprite.frames = &frame;
+        sprite.nbFrames = 7;
+        EXPECT_FALSE(sprite.Load(c.path, format)) << c.path;
+        EXPECT_EQ(c.untouched ? &frame : nullptr, sprite.frames) << c.path;
+        EXPECT_EQ(c.untouched ? 7u : 0u, sprite.nbFrames) << c.path;
+        sprite.frames = nullptr; // not the sprite's to free
+        sprite.nbFrames = 0;
+    }
 }
 
 TEST_F(SpriteFile, ZeroFramesLoadAsAnEmptySpriteThatDisplaysNothing)

@@ -37,6 +37,9 @@ WidgetStorm::WidgetStorm(const FormatCase &format)
 WidgetStorm::~WidgetStorm()
 {
     SDL_GetKeyState(nullptr)[SDLK_LSHIFT] = 0;
+    // The widgets show the font; they go first.
+    board_.reset();
+    font_.FreeFrames();
 }
 
 std::string WidgetStorm::Step(const ScriptStep &step)

@@ -64,7 +64,9 @@ bool CheckSpriteFile(const std::string &path, std::vector<FrameSummary> *frames,
     }
     Uint32 count;
     if (!kvt::ReadWord(file.get(), &count)) {
-        *error = path + " is damaged: it ends before the frame count";
+        // A directory opens, and then fails on the first read.
+        *error = std::ferror(file.get()) ? "cannot read " + path + ": " + std::strerror(errno)
+                                         : path + " is damaged: it ends before the frame count";
         return false;
     }
     frames->clear();

@@ -9,6 +9,7 @@
 
 #include "support/expected.h"
 #include "support/surfaces.h"
+#include "support/temp_dir.h"
 #include "support/temp_file.h"
 
 using kvt_test::ExpectedPixels;
@@ -66,6 +67,22 @@ TEST(ThemeFile, LoadOfAMissingFileFailsAndChangesNothing)
     EXPECT_FALSE(t.Load("/nonexistent-folder/theme.kvt", nullptr));
     EXPECT_FALSE(t.Save("/nonexistent-folder/theme.kvt", nullptr));
     EXPECT_EQ(before, Bytes(AllColours(&t))) << "a failed open must leave the theme as it was";
+}
+
+// A directory cannot be opened for writing, so Save fails; it opens for
+// reading but gives no bytes, so Load answers true as for an empty file
+// and only the middle colours are worked out again.
+TEST(ThemeFile, ADirectoryIsAnUnwritableEmptyFile)
+{
+    kvt_test::TempCurrentDir folder;
+    ASSERT_TRUE(folder.ok() && folder.MakeDir("folder.theme"));
+    CUITheme t;
+    FillColours(&t, 3);
+    const std::vector<Uint8> stored = Bytes(Stored(&t));
+    EXPECT_FALSE(t.Save("folder.theme", nullptr));
+    EXPECT_TRUE(t.Load("folder.theme", nullptr));
+    EXPECT_EQ(stored, Bytes(Stored(&t)));
+    EXPECT_EQ((t.activeFirst.r + t.activeLast.r) >> 1, t.activeMid.r);
 }
 
 TEST(ThemeFile, SaveWritesTheStoredColoursInFileOrderAndLoadRestoresThem)

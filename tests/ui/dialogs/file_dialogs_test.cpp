@@ -151,13 +151,18 @@ protected:
     // Pushes `events` and a marker, then runs the dialog over them; the
     // marker alone must be left: the dialog took every event up to the one
     // that ended it, and no more.
+    // The buffer has KVT_DIALOG_RESULT_SIZE bytes and one more for each
+    // character of `extension` beyond KVT_DIALOG_EXTENSION_MAX, then the
+    // spare bytes that must stay untouched.
     Outcome Run(DialogCall call, const char *extension, const Events &events)
     {
         SDL_Event marker = Marker();
         for (SDL_Event event : events)
             EXPECT_EQ(SDL_PushEvent(&event), 0) << "the event queue is full";
         SDL_PushEvent(&marker);
-        std::vector<char> buffer(KVT_DIALOG_RESULT_SIZE + kSpare, kSpareByte);
+        const size_t beyond =
+            std::max<size_t>(strlen(extension), KVT_DIALOG_EXTENSION_MAX) - KVT_DIALOG_EXTENSION_MAX;
+        std::vector<char> buffer(KVT_DIALOG_RESULT_SIZE + beyond + kSpare, kSpareByte);
         strcpy(buffer.data(), "caller's");
         std::vector<Uint8> before = surface.PixelBytes();
         bool answer = call(surface, kX, kY, kW, kH, &theme, &font, "Files", "OK", "Cancel",
@@ -267,16 +272,25 @@ TEST_P(FileDialogTest, OkOnTheUntouchedListChoosesTheLastNameTheDirectoryGives)
 }
 
 // The extension closes the name and also opens it, so the save dialog
-// appends it: the longest result the header allows for.
+// appends it: the longest result the header allows for, with the longest
+// extension it counts on and with a longer one, for which the caller adds
+// a byte per character.
 TEST_P(FileDialogTest, TheLongestNamesFitTheDocumentedBuffer)
 {
-    std::string extension(KVT_DIALOG_EXTENSION_MAX, 'e');
-    std::string name = extension + std::string(KVT_DIALOG_NAME_MAX - 2 * extension.size(), 'n') +
-                       extension;
-    MakeFiles({name.c_str()});
-    ExpectOutcome(Run(KVT_OpenFileDialog, extension.c_str(), kOk), true, name, "open", true);
-    ExpectOutcome(Run(KVT_SaveFileDialog, extension.c_str(), Join({Click(kListX, kRow0Y), kOk})),
-                  true, name + "." + extension, "save", true);
+    for (int extensionLength : {KVT_DIALOG_EXTENSION_MAX, KVT_DIALOG_EXTENSION_MAX + 5}) {
+        std::string extension(size_t(extensionLength), 'e');
+        std::string name = extension +
+                           std::string(KVT_DIALOG_NAME_MAX - 2 * extension.size(), 'n') +
+                           extension;
+        MakeFiles({name.c_str()});
+        const std::string what = std::to_string(extensionLength) + "-character extension";
+        ExpectOutcome(Run(KVT_OpenFileDialog, extension.c_str(), kOk), true, name,
+                      ("open, " + what).c_str(), true);
+        ExpectOutcome(Run(KVT_SaveFileDialog, extension.c_str(),
+                          Join({Click(kListX, kRow0Y), kOk})),
+                      true, name + "." + extension, ("save, " + what).c_str(), true);
+        ASSERT_EQ(unlink(name.c_str()), 0);
+    }
 }
 
 // With video shut down SDL has no event queue and SDL_WaitEvent fails.

@@ -232,6 +232,9 @@ TEST_P(TextEditTest, HoldsAtMost255Characters)
     EXPECT_TRUE(field->SendMessage(CUIMSG_SETTEXT, intptr_t(tooLong.c_str()), 0, s.actual));
     EXPECT_EQ(full, field->GetText()) << "a text longer than the field";
     EXPECT_EQ(255, field->caret);
+    field->SetText((full + "!").c_str());
+    EXPECT_EQ(full, field->GetText()) << "SetText with one character too many";
+    EXPECT_EQ(255, field->length);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, TextEditTest, ::testing::ValuesIn(kvt_test::AllFormats()),

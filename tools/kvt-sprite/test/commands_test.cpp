@@ -152,6 +152,12 @@ const Refusal kRefusals[] = {
     {"info_of_a_missing_file", {"info", "@/none.spr"}, 1},
     {"unpack_of_a_damaged_file", {"unpack", "@/damaged.spr", "@/frames"}, 1},
     {"unpack_into_a_file", {"unpack", "@/keep.spr", "@/text.txt"}, 1},
+    // The scratch folder itself, where a file is wanted.
+    {"info_of_a_directory", {"info", "@/"}, 1},
+    {"unpack_of_a_directory", {"unpack", "@/", "@/frames"}, 1},
+    {"image_that_is_a_directory", {"pack", "@/new.spr", "@/"}, 1},
+    {"output_that_is_a_directory", {"pack", "@/", "@/dot.png"}, 1},
+    {"font_file_that_is_a_directory", {"font", "@/new.spr", "@/", "12"}, 1},
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases, RefusedCommand, ::testing::ValuesIn(kRefusals),
