@@ -112,6 +112,9 @@ TEST_P(RefusedCommand, SaysWhyOnOneLineAndWritesNothing)
     const std::string example = ExampleFile();
     kvt_sprite_test::WriteFile(folder / "keep.spr", example);
     kvt_sprite_test::WriteFile(folder / "damaged.spr", example.substr(0, 40));
+    std::string lying = example;
+    lying.replace(8, 4, "\xff\xff\xff\x7f"); // the first frame's width
+    kvt_sprite_test::WriteFile(folder / "lying.spr", lying);
     kvt_sprite_test::WriteFile(folder / "text.txt", "not a picture\n");
     kvt_sprite::Picture dot;
     dot.width = dot.height = 1;
@@ -151,6 +154,8 @@ const Refusal kRefusals[] = {
     {"info_without_file", {"info"}, 2},
     {"info_of_a_missing_file", {"info", "@/none.spr"}, 1},
     {"unpack_of_a_damaged_file", {"unpack", "@/damaged.spr", "@/frames"}, 1},
+    {"info_of_a_lying_width", {"info", "@/lying.spr"}, 1},
+    {"unpack_of_a_lying_width", {"unpack", "@/lying.spr", "@/frames"}, 1},
     {"unpack_into_a_file", {"unpack", "@/keep.spr", "@/text.txt"}, 1},
     // The scratch folder itself, where a file is wanted.
     {"info_of_a_directory", {"info", "@/"}, 1},
