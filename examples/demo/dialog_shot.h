@@ -4,8 +4,8 @@
 // Headless pictures of a modal dialog while it is open. A dialog call
 // takes every event from SDL's queue and returns only on OK or Cancel, so
 // its input is queued in two batches: the first before the call, and the
-// second, which ends it, by a helper thread once the dialog has taken the
-// whole first batch, drawn, and gone idle. Between the two the thread
+// second, which ends it, by a helper thread once the dialog has dealt with
+// the whole first batch, drawn, and gone idle. Between the two the thread
 // copies the surface. SDL_PushEvent is safe from any thread.
 
 #include <vector>

@@ -7,6 +7,7 @@
 // else. Multi-byte access goes through memcpy, which compiles to a plain
 // load or store and never traps on an unaligned address.
 
+#include <cstddef>
 #include <cstring>
 
 #include <SDL.h>
@@ -138,8 +139,8 @@ inline bool IsOnSurface(const SDL_Surface *surface, int x, int y)
 
 inline Uint8 *PixelAddress(const SDL_Surface *surface, int x, int y)
 {
-    return static_cast<Uint8 *>(surface->pixels) + y * int(surface->pitch) +
-           x * int(surface->format->BytesPerPixel);
+    return static_cast<Uint8 *>(surface->pixels) + ptrdiff_t(y) * surface->pitch +
+           ptrdiff_t(x) * surface->format->BytesPerPixel;
 }
 
 // The blend of one channel: `alpha` weighs the pixel already there.

@@ -86,7 +86,10 @@ public:
     void Set(int x, int y, Rgb c) const { pixel_.Store(At(x, y), form_.Map(c.r, c.g, c.b)); }
 
 private:
-    Uint8 *At(int x, int y) const { return base_ + y * pitch_ + x * Pixel::kBytes; }
+    Uint8 *At(int x, int y) const
+    {
+        return base_ + ptrdiff_t(y) * pitch_ + ptrdiff_t(x) * Pixel::kBytes;
+    }
 
     Uint8 *base_;
     int pitch_;
@@ -119,7 +122,10 @@ public:
     void Set(int x, int y, Uint32 v) const { pixel_.Store(At(x, y), v); }
 
 private:
-    Uint8 *At(int x, int y) const { return base_ + y * pitch_ + x * Pixel::kBytes; }
+    Uint8 *At(int x, int y) const
+    {
+        return base_ + ptrdiff_t(y) * pitch_ + ptrdiff_t(x) * Pixel::kBytes;
+    }
 
     Uint8 *base_;
     int pitch_;

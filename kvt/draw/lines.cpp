@@ -49,7 +49,7 @@ public:
         int sx = Narrow16(x), sy = Narrow16(y);
         if (sx < 0 || sy < 0 || sx >= w_ || sy >= h_)
             return nullptr;
-        return pixels_ + sy * pitch_ + sx * bytes;
+        return pixels_ + ptrdiff_t(sy) * pitch_ + ptrdiff_t(sx) * bytes;
     }
 
 private:

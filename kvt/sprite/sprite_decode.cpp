@@ -69,11 +69,12 @@ void DecodeFrame(SDL_Surface *surface, const FrameRuns &runs)
             WalkRow(
                 runs.words + span.first, span.count, width,
                 [&](int x, int n) {
-                    for (Uint8 *p = row + x * kBytes, *end = p + n * kBytes; p != end; p += kBytes)
+                    Uint8 *p = row + ptrdiff_t(x) * kBytes;
+                    for (Uint8 *const end = p + ptrdiff_t(n) * kBytes; p != end; p += kBytes)
                         pixel.Store(p, key);
                 },
                 [&](int x, const Uint32 *pixels, int n) {
-                    Uint8 *p = row + x * kBytes;
+                    Uint8 *p = row + ptrdiff_t(x) * kBytes;
                     for (int k = 0; k < n; ++k, p += kBytes)
                         pixel.Store(p, colour.Map(pixels[k]));
                 });

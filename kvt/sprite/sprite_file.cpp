@@ -113,7 +113,7 @@ bool FrameRecord::ReadWords(FILE *file, Uint32 count)
             return false;
         // Turned into numbers in place: word k is read before it is written.
         for (Uint32 k = 0; k < chunk; ++k)
-            words_[size_ + k] = LittleEndianWord(bytes + 4 * k);
+            words_[size_ + k] = LittleEndianWord(bytes + 4 * size_t(k));
         size_ += chunk;
         count -= chunk;
     }

@@ -50,7 +50,8 @@ public:
     int x, y, width, height; // set by the subclass's constructor
     CUITheme *theme;         // not owned
 
-    CUIObject() : focused(false), theme(nullptr) {}
+    // The rectangle is left to the subclass's constructor, which calls Place.
+    CUIObject() : focused(false), theme(nullptr) {} // cppcheck-suppress uninitMemberVar
     // Virtual so that deleting any widget through a CUIObject pointer
     // releases everything its class holds.
     virtual ~CUIObject() = default;

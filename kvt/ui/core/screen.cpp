@@ -13,6 +13,7 @@ void Update(SDL_Surface *surface) { SDL_UpdateRect(surface, 0, 0, 0, 0); }
 CUIScreen::CUIScreen(int nbWidgets)
     : lastOverWidget(-1), overWidget(-1), hitWidget(-1), focusWidget(0), clickedWidget(-1),
       keyWidget(-1), firstDraw(true),
+      // NOLINTNEXTLINE(bugprone-sizeof-expression): an array of pointers
       widgets(static_cast<CUIObject **>(malloc(sizeof(CUIObject *) * size_t(nbWidgets)))),
       nbWidgets(nbWidgets)
 {

@@ -8,7 +8,7 @@
 namespace {
 
 constexpr int kStoredColours = 5;
-constexpr size_t kFileBytes = kStoredColours * 4;
+constexpr size_t kFileBytes = size_t(kStoredColours) * 4;
 
 // The colours of the file, in file order.
 KVT_RGBA *StoredColour(CUITheme *theme, int index)
@@ -78,6 +78,7 @@ bool CUITheme::Save(const char *path, SDL_Surface *surface)
         bytes[k] = *Channel(StoredColour(this, int(k / 4)), int(k % 4));
     // A short write is not reported: the answer says only that the file
     // could be opened.
+    // cppcheck-suppress uninitvar ; the loop above fills every byte
     size_t written = std::fwrite(bytes, 1, kFileBytes, file);
     (void)written;
     std::fclose(file);

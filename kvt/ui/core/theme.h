@@ -31,7 +31,8 @@ public:
 
     // Only `background` gets a value (null); the colours have none until
     // Load, or until the application assigns them and calls RepackColor.
-    CUITheme() : background(nullptr) {}
+    // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.UninitializedObject): as just said
+    CUITheme() : background(nullptr) {} // cppcheck-suppress uninitMemberVar
 
     // Reads the five stored colours (20 bytes: activeFirst, activeLast,
     // restFirst, restLast, faceColor, each r g b a) and recomputes the

@@ -27,8 +27,11 @@ void ScanNames(List *names, const char *extension)
         if (IsDotEntry(name))
             continue;
         // The lister's buffer lives only until its next call.
-        char *copy = static_cast<char *>(malloc(strlen(name) + 1));
-        strcpy(copy, name);
+        const size_t size = strlen(name) + 1;
+        char *copy = static_cast<char *>(malloc(size));
+        if (copy == nullptr) // out of memory: the name is left out of the list
+            continue;
+        memcpy(copy, name, size);
         names->AddElement(copy);
     }
 }

@@ -71,13 +71,13 @@ bool TakeChosenName(const char *name, char *result)
 // extension, so an empty extension adds a lone dot.
 void ApplyExtension(const char *text, const char *extension, char *result)
 {
-    strcpy(result, text);
+    const size_t length = strlen(text), extensionLength = strlen(extension);
+    memcpy(result, text, length + 1);
     const char *found = strstr(result, extension);
-    size_t length = strlen(result), extensionLength = strlen(extension);
     if (found != nullptr && size_t(found - result) + extensionLength == length)
         return;
-    strcat(result, ".");
-    strcat(result, extension);
+    result[length] = '.';
+    memcpy(result + length + 1, extension, extensionLength + 1);
 }
 
 // The save dialog's outcome; Cancel leaves `result` as the caller had it.

@@ -66,6 +66,7 @@ bool CUITextEdit::SendMessage(int message, intptr_t param1, intptr_t param2,
     case CUIMSG_CHAR:
         return TypeCharacter(param1, surface);
     case CUIMSG_SETTEXT:
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): messages carry the string as an integer
         SetText(reinterpret_cast<const char *>(param1));
         SendMessage(CUIMSG_REFRESH, 0, 0, surface);
         return true;

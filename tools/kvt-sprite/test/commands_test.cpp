@@ -68,8 +68,9 @@ TEST(FontCommand, DejaVuSansGivesNinetyFiveFramesAsWideAsTheirAdvances)
     ASSERT_EQ(0, run.status) << run.err;
     SDL_Surface *holder = SDL_CreateRGBSurface(0, 1, 1, 32, 0xFF0000, 0xFF00, 0xFF, 0);
     KVT_Sprite sprite;
-    ASSERT_TRUE(sprite.Load((folder / "font.spr").c_str(), holder->format));
+    const bool loaded = sprite.Load((folder / "font.spr").c_str(), holder->format);
     SDL_FreeSurface(holder);
+    ASSERT_TRUE(loaded);
     ASSERT_EQ(95u, sprite.GetNbFrames());
     ASSERT_EQ(0, TTF_Init());
     TTF_Font *font = TTF_OpenFont(KVT_SPRITE_TTF, size);
