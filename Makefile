@@ -7,7 +7,7 @@ ARMHF_BUILD ?= build-armhf
 JOBS       ?= $(shell nproc)
 
 BASE_DEPS  = cmake make g++ pkg-config libsdl1.2-dev libgtest-dev libpng-dev xvfb xdotool \
-             libsdl-image1.2-dev libsdl-ttf2.0-dev fonts-dejavu-core
+             libsdl-image1.2-dev libsdl-ttf2.0-dev fonts-dejavu-core valgrind
 BENCH_DEPS = libbenchmark-dev libsdl-gfx1.2-dev python3
 # The cross compiler, the emulator, and what building SDL, zlib and libpng
 # from Debian's source packages takes.
@@ -75,6 +75,34 @@ bench: deps
 	  -DKVT_BUILD_TESTS=OFF >/dev/null
 	cmake --build $(BENCH_BUILD) -j $(JOBS)
 	python3 bench/ratios.py $(BENCH_BUILD)/bench/kvt-bench -- $(BENCH_ARGS)
+
+# libFuzzer targets built by clang with AddressSanitizer and
+# UndefinedBehaviorSanitizer, in their own tree. Each runs FUZZ_SECONDS on
+# a scratch copy of its seeds in fuzz/corpus/; any finding (crash, leak,
+# timeout, sanitizer report) fails the run. See fuzz/README.md.
+FUZZ_BUILD   ?= build-fuzz
+FUZZ_SECONDS ?= 60
+FUZZ_DEPS     = clang libclang-rt-14-dev
+
+.PHONY: fuzz
+fuzz: deps
+	@scripts/install-deps.sh $(FUZZ_DEPS)
+	CC=clang CXX=clang++ cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DKVT_BUILD_FUZZ=ON >/dev/null
+	cmake --build $(FUZZ_BUILD) -j $(JOBS)
+	fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS)
+
+# Static checks of kvt/ and tools/: cppcheck, then clang-tidy with the
+# checks of .clang-tidy; any finding fails. The tree is only configured,
+# for its compile database.
+LINT_BUILD ?= build-lint
+LINT_DEPS   = cppcheck clang-tidy
+
+.PHONY: lint
+lint: deps
+	@scripts/install-deps.sh $(LINT_DEPS)
+	cmake -S . -B $(LINT_BUILD) -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
+	scripts/lint.sh $(LINT_BUILD) $(JOBS)
 
 clean:
 	rm -rf $(BUILD) $(SAN_BUILD) $(BENCH_BUILD)
