@@ -105,4 +105,4 @@ lint: deps
 	scripts/lint.sh $(LINT_BUILD) $(JOBS)
 
 clean:
-	rm -rf $(BUILD) $(SAN_BUILD) $(BENCH_BUILD)
+	rm -rf $(BUILD) $(SAN_BUILD) $(BENCH_BUILD) $(ARMHF_BUILD) $(FUZZ_BUILD) $(LINT_BUILD)
