@@ -38,8 +38,10 @@ void CUIFileLister::Scan(const char *suffix)
         while (const char *name = lister.GetNextName()) {
             if (IsDotEntry(name))
                 continue;
-            size_t size = strlen(name) + 1;
+            const size_t size = strlen(name) + 1;
             char *copy = static_cast<char *>(malloc(size));
+            if (copy == nullptr) // out of memory: the name is left out
+                continue;
             memcpy(copy, name, size);
             names.AddElement(copy);
         }

@@ -1,5 +1,7 @@
 #include <kvt/ui/lists/generic_list.h>
 
+#include <algorithm>
+
 #include <kvt/draw/pixel.h>
 
 // What the scroll bar hears from the list, and when: DRAW right after the
@@ -114,15 +116,51 @@ void CUIGenericList::Draw(SDL_Surface *surface)
     Redraw(surface);
 }
 
+namespace {
+
+// Narrows the surface's clip rectangle to `area` for the object's life and
+// then puts the caller's back, so that drawing inside a widget cannot reach
+// pixels beside it.
+class ClipInside {
+public:
+    ClipInside(SDL_Surface *surface, SDL_Rect area) : surface_(surface)
+    {
+        SDL_GetClipRect(surface, &before_);
+        const int left = std::max(int(area.x), int(before_.x));
+        const int top = std::max(int(area.y), int(before_.y));
+        const int right = std::min(area.x + area.w, before_.x + before_.w);
+        const int bottom = std::min(area.y + area.h, before_.y + before_.h);
+        SDL_Rect inside = {Sint16(left), Sint16(top), Uint16(std::max(right - left, 0)),
+                           Uint16(std::max(bottom - top, 0))};
+        SDL_SetClipRect(surface, &inside);
+    }
+    ~ClipInside() { SDL_SetClipRect(surface_, &before_); }
+    ClipInside(const ClipInside &) = delete;
+    ClipInside &operator=(const ClipInside &) = delete;
+
+private:
+    SDL_Surface *surface_;
+    SDL_Rect before_;
+};
+
+} // namespace
+
 // Restoring the face wipes the old rows and the old mark; the mark is the
 // active frame around the selected row, only while that row is in view.
+// A row's text is cut at the face: a long name would otherwise draw over
+// whatever lies right of or below the list, which nothing puts back.
 void CUIGenericList::Refresh(SDL_Surface *surface)
 {
     rowsSaver.RestaurRegion(surface);
     int left = x + barWidth + 1, base = scrollBar->GetBaseVal();
     int nbEl = scrollBar->GetInterval() + 1;
-    for (int i = 0; i < visibleRows && i < nbEl; ++i)
-        DisplayListElement(base + i, left, y + i * rowHeight + 1, surface);
+    {
+        const SDL_Rect face = {Sint16(left), Sint16(y + 1), Uint16(width - barWidth - 2),
+                               Uint16(height - 2)};
+        ClipInside clip(surface, face);
+        for (int i = 0; i < visibleRows && i < nbEl; ++i)
+            DisplayListElement(base + i, left, y + i * rowHeight + 1, surface);
+    }
     int d = scrollBar->GetVal() - base;
     if (d >= 0 && d < visibleRows)
         theme->DrawFrame(surface, left, y + d * rowHeight + 1, width - barWidth - 2,

@@ -10,6 +10,7 @@
 
 #include "support/sprite_file.h"
 #include "support/surface_pair.h"
+#include "support/surfaces.h"
 #include "support/theme.h"
 
 using kvt_test::FormatCase;
@@ -49,15 +50,19 @@ protected:
 };
 
 // What the drawn list should look like: the face (alpha 0, so the face
-// colour itself), one line of text per row, and the mark on element 0 when
-// it is in view.
+// colour itself), one line of text per row cut at the face (some glyphs of
+// the test font reach above their row), and the mark on element 0 when it
+// is in view.
 void PaintExpected(SDL_Surface *surface, const CUITheme &theme, KVT_Sprite *font,
                    const RowsCase &c)
 {
     int left = kX + kBar + 1, w = kW - kBar - 2;
     KVT_FillRectAlpha(surface, left, kY + 1, w, kH - 2, theme.faceColor);
+    SDL_Rect face = {Sint16(left), Sint16(kY + 1), Uint16(w), Uint16(kH - 2)};
+    SDL_SetClipRect(surface, &face);
     for (size_t i = 0; i < c.rows.size(); ++i)
         KVT_DisplayText(surface, font, left, kY + int(i) * kRow + 1, c.rows[i].c_str());
+    SDL_SetClipRect(surface, nullptr);
     if (c.base == 0)
         theme.DrawFrame(surface, left, kY + 1, w, kRow, CUIFrame::Active);
 }
@@ -83,6 +88,29 @@ TEST_P(StringListPixels, RowsShowTheStringsOfTheList)
         list.SendMessage(CUIMSG_REFRESH, 0, 0, pair.actual);
         EXPECT_EQ("", pair.Difference()) << c.what;
     }
+}
+
+// A row wider than the list, and glyphs that reach above their row, are
+// cut at the face: nothing beside the list changes, and the caller's clip
+// rectangle is back afterwards.
+TEST_P(StringListPixels, RowsStayInsideTheList)
+{
+    kvt_test::GuardedSurface surface(GetParam(), 90, 40, 4);
+    const std::vector<Uint8> before = surface.PixelBytes();
+    const std::string wide = "a string of text wider than the list";
+    List strings;
+    strings.AddElement(const_cast<char *>(wide.c_str()));
+    CUIStringList list(kX, kY, kW, kH, &theme, 1, kRow, kBar);
+    list.SetFont(&font);
+    list.SetStringList(&strings);
+    const SDL_Rect callersClip = {1, 1, 88, 38};
+    SDL_SetClipRect(surface, &callersClip);
+    list.SendMessage(CUIMSG_DRAW, 0, 0, surface);
+    list.SendMessage(CUIMSG_REFRESH, 0, 0, surface);
+    EXPECT_EQ("", kvt_test::ChangedOutside(surface, before, SDL_Rect{kX, kY, kW, kH}));
+    SDL_Rect clip;
+    SDL_GetClipRect(surface, &clip);
+    EXPECT_TRUE(clip.x == 1 && clip.y == 1 && clip.w == 88 && clip.h == 38);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, StringListPixels, ::testing::ValuesIn(kvt_test::AllFormats()),
