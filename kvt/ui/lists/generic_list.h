@@ -37,8 +37,10 @@ public:
                      SDL_Surface *surface) override;
 
     // Paints element `element` with its top left corner at (left, top), on
-    // a row whose face is already restored. No size and no clipping are
-    // given, and the selection mark is the list's.
+    // a row whose face is already restored. No size is given; while it
+    // runs, the surface's clip rectangle is narrowed to the list's face (and
+    // the caller's own clip rectangle), so what spills over the face is cut.
+    // The selection mark is the list's.
     virtual void DisplayListElement(int element, int left, int top, SDL_Surface *surface) = 0;
 
 private:
