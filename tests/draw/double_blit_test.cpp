@@ -6,7 +6,7 @@
 #include <kvt/draw/internal/double_blit_paths.h>
 #include <kvt/draw/pixel.h>
 
-#include "support/surfaces.h"
+#include "support/surface_pair.h"
 
 using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
@@ -41,16 +41,12 @@ TEST_P(DoubleBlitFormats, FastEqualsPlainOnEveryTargetFormat)
                 if (rng() % 3 == 0)
                     Set(source, i % w, i / w, kNearKey[rng() % 6]);
             const int tw = 2 * w + int(rng() % 5), th = 2 * h + int(rng() % 4);
-            const unsigned seed = unsigned(rng());
-            GuardedSurface want(targetFormat, tw, th), got(targetFormat, tw, th);
-            std::mt19937 fillA(seed), fillB(seed);
-            want.FillRandom(fillA);
-            got.FillRandom(fillB);
+            kvt_test::SurfacePair pair(targetFormat, tw, th, unsigned(rng()));
             const int x = int(rng() % unsigned(tw - 2 * w + 2));
             const int y = int(rng() % unsigned(th - 2 * h + 2));
-            kvt::DoubleSizeBlitPlain(source, want, x, y);
-            KVT_DoubleSizeBlit(source, got, x, y);
-            ASSERT_EQ("", kvt_test::FirstDifference(want, got))
+            kvt::DoubleSizeBlitPlain(source, pair.expected, x, y);
+            KVT_DoubleSizeBlit(source, pair.actual, x, y);
+            ASSERT_EQ("", pair.Difference())
                 << kvt_test::FormatName(GetParam()) << " " << w << "x" << h << " onto "
                 << kvt_test::FormatName(targetFormat) << " " << tw << "x" << th << " at (" << x
                 << ", " << y << ")";
@@ -106,37 +102,32 @@ KVT_RGBA Mean(KVT_RGBA a, KVT_RGBA b)
     return KVT_RGB(Uint8((a.r + b.r) >> 1), Uint8((a.g + b.g) >> 1), Uint8((a.b + b.b) >> 1), 0);
 }
 
-TEST_P(DoubleBlitRules, DrawsOnlyWhenTheDoubledSourceFits)
+// A 3 x 2 source fits the 12 x 10 target at (6, 6) but not one pixel
+// further; where it fits, only the doubled area bar its last row and
+// column changes, and the last source pixel lands at its corner.
+TEST_P(DoubleBlitRules, WritesOnlyTheDoubledAreaBarItsLastRowAndColumnWhereItFits)
 {
     struct Case {
-        int x, y;
+        int x, y, w, h;
         bool drawn;
-    } const cases[] = {{4, 4, true}, {5, 0, false}, {0, 5, false}, {-1, 0, false}, {0, -1, false}};
-    for (const Case &c : cases) {
-        GuardedSurface source(kFormat, 3, 2), target(kFormat, 10, 8);
-        source.FillColour(1, 2, 3);
-        Paint(target);
-        const std::vector<Uint8> before = target.PixelBytes();
-        GetParam().blit(source, target, c.x, c.y);
-        EXPECT_EQ(c.drawn, before != target.PixelBytes()) << "at (" << c.x << ", " << c.y << ")";
-    }
-}
-
-TEST_P(DoubleBlitRules, WritesOnlyTheDoubledAreaBarItsLastRowAndColumn)
-{
-    struct Case {
-        int w, h;
-    } const cases[] = {{1, 1}, {3, 1}, {1, 3}, {3, 2}};
+    } const cases[] = {{2, 3, 1, 1, true},   {2, 3, 3, 1, true},   {2, 3, 1, 3, true},
+                       {2, 3, 3, 2, true},   {6, 6, 3, 2, true},   {7, 0, 3, 2, false},
+                       {0, 7, 3, 2, false},  {-1, 0, 3, 2, false}, {0, -1, 3, 2, false}};
     for (const Case &c : cases) {
         GuardedSurface source(kFormat, c.w, c.h), target(kFormat, 12, 10);
         source.FillColour(40, 50, 60);
         Paint(target);
         const std::vector<Uint8> before = target.PixelBytes();
-        GetParam().blit(source, target, 2, 3);
-        const SDL_Rect area = {2, 3, Uint16(2 * c.w - 1), Uint16(2 * c.h - 1)};
-        EXPECT_EQ("", kvt_test::ChangedOutside(target, before, area)) << c.w << "x" << c.h;
-        EXPECT_EQ("(40, 50, 60)", Show(ReadColour(target, 2 + 2 * c.w - 2, 3 + 2 * c.h - 2)))
-            << c.w << "x" << c.h << ": last source pixel";
+        GetParam().blit(source, target, c.x, c.y);
+        const SDL_Rect area = {Sint16(c.x), Sint16(c.y), Uint16(c.drawn ? 2 * c.w - 1 : 0),
+                               Uint16(2 * c.h - 1)};
+        const std::string what = std::to_string(c.w) + "x" + std::to_string(c.h) + " at (" +
+                                 std::to_string(c.x) + ", " + std::to_string(c.y) + ")";
+        EXPECT_EQ("", kvt_test::ChangedOutside(target, before, area)) << what;
+        if (c.drawn) {
+            const KVT_RGBA last = ReadColour(target, c.x + 2 * c.w - 2, c.y + 2 * c.h - 2);
+            EXPECT_EQ("(40, 50, 60)", Show(last)) << what << ": last source pixel";
+        }
     }
 }
 

@@ -6,7 +6,7 @@
 #include <kvt/draw/internal/fill_alpha_paths.h>
 #include <kvt/draw/pixel.h>
 
-#include "support/surfaces.h"
+#include "support/surface_pair.h"
 
 using kvt_test::FormatCase;
 using kvt_test::GuardedSurface;
@@ -69,11 +69,8 @@ TEST_P(FillAlphaTest, EveryPathGivesThePlainBytes)
     for (const FillPath &path : kPaths) {
         for (int trial = 0; trial < 300; ++trial) {
             const int w = 1 + int(rng() % 80), h = 1 + int(rng() % 5), pad = int(rng() % 8);
-            const unsigned seed = unsigned(rng());
-            GuardedSurface want(GetParam(), w, h, pad), got(GetParam(), w, h, pad);
-            std::mt19937 fillA(seed), fillB(seed);
-            want.FillRandom(fillA);
-            got.FillRandom(fillB);
+            kvt_test::SurfacePair pair(GetParam(), w, h, unsigned(rng()), pad);
+            GuardedSurface &want = pair.expected, &got = pair.actual;
             // Rectangles that hang off any side or miss the surface too.
             const int x = int(rng() % unsigned(w + 12)) - 10, y = int(rng() % unsigned(h + 5)) - 3;
             const int rw = int(rng() % 75) - 2, rh = int(rng() % 9) - 1;
@@ -97,7 +94,7 @@ TEST_P(FillAlphaTest, EveryPathGivesThePlainBytes)
                 ASSERT_EQ(path.handles(GetParam()), applied) << what.str() << ": wrong formats";
             }
             if (applied) {
-                ASSERT_EQ("", kvt_test::FirstDifference(want, got)) << what.str();
+                ASSERT_EQ("", pair.Difference()) << what.str();
             } else {
                 ASSERT_TRUE(before == got.PixelBytes() && got.GuardsIntact()) << what.str();
             }
@@ -133,16 +130,13 @@ TEST_P(FillAlphaTest, CutsTheRectangleToTheSurface)
     };
     const KVT_RGBA colour = KVT_RGB(200, 90, 30, 100);
     for (const Case &c : cases) {
-        GuardedSurface want(GetParam(), W, H), got(GetParam(), W, H);
-        std::mt19937 fillA(5), fillB(5);
-        want.FillRandom(fillA);
-        got.FillRandom(fillB);
+        kvt_test::SurfacePair pair(GetParam(), W, H, 5);
         for (int y = c.filled.y; y < c.filled.y + c.filled.h; ++y)
             for (int x = c.filled.x; x < c.filled.x + c.filled.w; ++x)
-                KVT_SetPixelAlpha(want, Sint16(x), Sint16(y), colour.r, colour.g, colour.b,
-                                  colour.a);
-        KVT_FillRectAlpha(got, c.x, c.y, c.w, c.h, colour);
-        EXPECT_EQ("", kvt_test::FirstDifference(want, got)) << c.what;
+                KVT_SetPixelAlpha(pair.expected, Sint16(x), Sint16(y), colour.r, colour.g,
+                                  colour.b, colour.a);
+        KVT_FillRectAlpha(pair.actual, c.x, c.y, c.w, c.h, colour);
+        EXPECT_EQ("", pair.Difference()) << c.what;
     }
 }
 

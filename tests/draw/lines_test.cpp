@@ -7,6 +7,7 @@
 #include <kvt/draw/internal/line_paths.h>
 
 #include "support/expected.h"
+#include "support/surface_pair.h"
 #include "support/surfaces.h"
 
 using kvt_test::FormatCase;
@@ -101,13 +102,10 @@ TEST_P(LinesTest, ClippedLinesDrawAsTheirCutPiece)
         {"last companion on row h", 11, 4, {0, 0, 10, 3}, {0, 0, 10, 3}},
     };
     for (const auto &c : cases) {
-        GuardedSurface cut(GetParam(), c.w, c.h), piece(GetParam(), c.w, c.h);
-        std::mt19937 rng(6), same(6);
-        cut.FillRandom(rng);
-        piece.FillRandom(same);
-        KVT_Line(cut, c.line[0], c.line[1], c.line[2], c.line[3], kColour);
-        KVT_Line(piece, c.piece[0], c.piece[1], c.piece[2], c.piece[3], kColour);
-        EXPECT_EQ("", kvt_test::FirstDifference(cut, piece)) << "cut at the " << c.edge;
+        kvt_test::SurfacePair pair(GetParam(), c.w, c.h, 6);
+        KVT_Line(pair.actual, c.line[0], c.line[1], c.line[2], c.line[3], kColour);
+        KVT_Line(pair.expected, c.piece[0], c.piece[1], c.piece[2], c.piece[3], kColour);
+        EXPECT_EQ("", pair.Difference()) << "cut at the " << c.edge;
     }
 }
 
@@ -116,10 +114,8 @@ TEST_P(LinesTest, ClippedLinesDrawAsTheirCutPiece)
 // out in the 32-bit range.
 TEST_P(LinesTest, LineMatchesPlainPlotting)
 {
-    GuardedSurface plain(GetParam(), 23, 17), fast(GetParam(), 23, 17);
-    std::mt19937 rng(4), same(4);
-    plain.FillRandom(rng);
-    fast.FillRandom(same);
+    kvt_test::SurfacePair pair(GetParam(), 23, 17, 4);
+    std::mt19937 rng(4);
     std::uniform_int_distribution<int> x(-30, 53), y(-25, 42), byte(0, 255), pick(0, 19);
     std::uniform_int_distribution<int> far(-2000000000, 2000000000);
     for (int i = 0; i < 400; ++i) {
@@ -127,9 +123,9 @@ TEST_P(LinesTest, LineMatchesPlainPlotting)
         if (pick(rng) == 0)
             e[pick(rng) % 4] = far(rng);
         KVT_RGBA c = KVT_RGB(Uint8(byte(rng)), Uint8(byte(rng)), Uint8(byte(rng)), 0);
-        kvt::LinePlain(plain, e[0], e[1], e[2], e[3], c);
-        KVT_Line(fast, e[0], e[1], e[2], e[3], c);
-        ASSERT_EQ("", kvt_test::FirstDifference(plain, fast))
+        kvt::LinePlain(pair.expected, e[0], e[1], e[2], e[3], c);
+        KVT_Line(pair.actual, e[0], e[1], e[2], e[3], c);
+        ASSERT_EQ("", pair.Difference())
             << "line " << i << " (" << e[0] << "," << e[1] << ")-(" << e[2] << "," << e[3] << ")";
     }
 }

@@ -6,6 +6,7 @@
 #include <kvt/draw/internal/shade_paths.h>
 
 #include "support/expected.h"
+#include "support/surface_pair.h"
 #include "support/surfaces.h"
 
 using kvt_test::ExpectedPixels;
@@ -107,10 +108,9 @@ TEST_P(ShadeTest, SteppedRampMatchesDividedRamp)
 {
     const int sizes[][2] = {{23, 17}, {700, 3}, {3, 700}};
     for (const auto &size : sizes) {
-        GuardedSurface plain(GetParam(), size[0], size[1]), fast(GetParam(), size[0], size[1]);
-        std::mt19937 rng(3), same(3);
-        plain.FillRandom(rng);
-        fast.FillRandom(same);
+        kvt_test::SurfacePair pair(GetParam(), size[0], size[1], 3);
+        GuardedSurface &plain = pair.expected, &fast = pair.actual;
+        std::mt19937 rng(3);
         int longest = std::max(size[0], size[1]);
         std::uniform_int_distribution<int> at(-40, longest + 10), len(-longest - 50, longest + 50);
         std::uniform_int_distribution<int> byte(0, 255);
@@ -122,7 +122,7 @@ TEST_P(ShadeTest, SteppedRampMatchesDividedRamp)
             KVT_HorzLineShade(fast, x, Sint16(y % size[1]), n, first, last);
             kvt::VertLineShadePlain(plain, Sint16(x % size[0]), y, n, last, first);
             KVT_VertLineShade(fast, Sint16(x % size[0]), y, n, last, first);
-            ASSERT_EQ("", kvt_test::FirstDifference(plain, fast))
+            ASSERT_EQ("", pair.Difference())
                 << "line " << i << " at " << x << "," << y << " length " << n;
         }
     }

@@ -97,6 +97,8 @@ TEST_P(SpriteDisplayFormats, FramesLandWithTheirAnchorOnThePosition)
         {"clipped to the top left 2 x 3", Op::Clipped, 4, 4, 0, 2, 3, true, 1, 2},
         {"clipped larger than the frame", Op::Clipped, 4, 4, 0, 100, 100, true, 1, 2},
         {"frame equal to the count", Op::Display, 4, 4, 2, 0, 0, false, 0, 0},
+        {"frame equal to the count, clipped", Op::Clipped, 4, 4, 2, 9, 9, false, 0, 0},
+        {"frame equal to the count, with alpha", Op::Alpha, 4, 4, 2, 255, 0, false, 0, 0},
         {"negative frame", Op::Clipped, 4, 4, Uint32(-1), 9, 9, false, 0, 0},
         {"negative frame with alpha", Op::Alpha, 4, 4, Uint32(-1), 255, 0, false, 0, 0},
     };

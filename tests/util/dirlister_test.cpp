@@ -25,14 +25,6 @@ Names Listed(const char *suffix)
     return names;
 }
 
-std::string Show(const Names &names)
-{
-    std::string out;
-    for (const auto &name : names)
-        out += "\"" + name + "\" ";
-    return out;
-}
-
 TEST(DirListerTest, MatchesTheTailOfEachNameExactly)
 {
     kvt_test::TempCurrentDir dir;
@@ -53,19 +45,19 @@ TEST(DirListerTest, MatchesTheTailOfEachNameExactly)
         {"longer than every name", {}},
     };
     for (const auto &c : cases)
-        EXPECT_EQ(Show(Listed(c.suffix)), Show(c.expected)) << "suffix \"" << c.suffix << "\"";
+        EXPECT_EQ(Listed(c.suffix), c.expected) << "suffix \"" << c.suffix << "\"";
 }
 
 TEST(DirListerTest, EmptyAndVanishedDirectoriesListNothing)
 {
     kvt_test::TempCurrentDir dir;
     ASSERT_TRUE(dir.ok());
-    EXPECT_EQ(Show(Listed("x")), "") << "empty directory";
+    EXPECT_EQ(Listed("x"), Names()) << "empty directory";
     ASSERT_TRUE(dir.MakeFile("x"));
     ASSERT_TRUE(dir.RemoveWhileInside());
     // Tests run as root, for whom permission bits hide nothing; a current
     // directory that no longer exists is one that no one can read.
-    EXPECT_EQ(Show(Listed("")), "") << "removed current directory";
+    EXPECT_EQ(Listed(""), Names()) << "removed current directory";
 }
 
 } // namespace

@@ -40,38 +40,35 @@ TEST(HorzValueBar, FillGrowsWithTheValue)
 }
 
 // The end of the fill at 50 is column 115: presses within 3 pixels of it,
-// either way, grab it.
-TEST(HorzValueBar, OnlyAPressNearTheEndOfTheFillGrabsIt)
-{
-    const struct {
-        int dx;
-        bool grabs;
-    } cases[] = {{100, true}, {103, true}, {104, false}, {97, true}, {96, false}, {20, false}};
-    for (const auto &c : cases) {
-        Bench b;
-        EXPECT_TRUE(b.Send(CUIMSG_MOUSEDOWN, kTrackLeft + c.dx)) << "press at +" << c.dx;
-        EXPECT_EQ(c.grabs, b.bar.dragging) << "press at +" << c.dx;
-        EXPECT_EQ(50, b.bar.GetVal()) << "press at +" << c.dx << " moved the value";
-    }
-}
-
-TEST(HorzValueBar, DragsFollowThePointerInsideTheTrack)
+// either way, grab it, and only a grab lets a move (px not 0) drag.
+TEST(HorzValueBar, OnlyAPressNearTheEndOfTheFillGrabsAndDragsInsideTheTrack)
 {
     const struct {
         const char *what;
+        int dx;
+        bool grabs;
         int px, py, val;
     } cases[] = {
-        {"to +150", kTrackLeft + 150, kMidRow, 75},
-        {"off the bar sideways", kTrackLeft + 150, 60, 75},
-        {"far right: d 199", 900, kMidRow, 99},
-        {"far left: d 1", 1, kMidRow, 0},
-        {"left of the surface: x is read unsigned, far right", -30, kMidRow, 99},
-        {"over the right end button: not heard", kX + 215, kMidRow, 50},
+        {"press on the end", 100, true, 0, 0, 50},
+        {"3 right of it", 103, true, 0, 0, 50},
+        {"4 right of it", 104, false, 0, 0, 50},
+        {"3 left of it", 97, true, 0, 0, 50},
+        {"4 left of it", 96, false, 0, 0, 50},
+        {"far left of it", 20, false, 0, 0, 50},
+        {"drag to +150", 100, true, kTrackLeft + 150, kMidRow, 75},
+        {"drag off the bar sideways", 100, true, kTrackLeft + 150, 60, 75},
+        {"drag far right: d 199", 100, true, 900, kMidRow, 99},
+        {"drag far left: d 1", 100, true, 1, kMidRow, 0},
+        {"drag left of the surface: x is read unsigned, far right", 100, true, -30, kMidRow, 99},
+        {"drag over the right end button: not heard", 100, true, kX + 215, kMidRow, 50},
     };
     for (const auto &c : cases) {
         Bench b;
-        b.Send(CUIMSG_MOUSEDOWN, kTrackLeft + 100);
-        EXPECT_TRUE(b.Send(CUIMSG_MOUSEMOVE, c.px, c.py)) << c.what;
+        EXPECT_TRUE(b.Send(CUIMSG_MOUSEDOWN, kTrackLeft + c.dx)) << c.what;
+        EXPECT_EQ(c.grabs, b.bar.dragging) << c.what;
+        if (c.px != 0) {
+            EXPECT_TRUE(b.Send(CUIMSG_MOUSEMOVE, c.px, c.py)) << c.what;
+        }
         EXPECT_EQ(c.val, b.bar.GetVal()) << c.what;
         EXPECT_FALSE(b.Send(CUIMSG_MOUSEUP, kTrackLeft + 20)) << c.what << ": release";
         EXPECT_FALSE(b.bar.dragging) << c.what;

@@ -158,9 +158,7 @@ TEST_P(GfxButtonPixels, EmptySpriteDrawsNoImageAndStaysAtFrameZero)
     KVT_Sprite empty;
     for (bool doubleSize : {false, true}) {
         SurfacePair s = Pair();
-        CUIGfxButton gfx(kLeft, kTop, kW, kH, &theme, &empty, 0, doubleSize);
         CUIMultiGfxButton multi(kLeft, kTop, kW, kH, &theme, &empty, doubleSize);
-        gfx.SendMessage(CUIMSG_DRAW, 0, 0, s.actual);
         multi.SendMessage(CUIMSG_DRAW, 0, 0, s.actual);
         multi.SetFrame(0);
         EXPECT_TRUE(multi.SendMessage(CUIMSG_MOUSEDOWN, CUIPackPosition(8, 8), 1, s.actual));

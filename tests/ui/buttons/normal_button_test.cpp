@@ -5,9 +5,11 @@
 #include <kvt/draw/lines.h>
 #include <kvt/draw/pixel.h>
 #include <kvt/sprite/text.h>
+#include <kvt/ui/buttons/bool_chooser.h>
 #include <kvt/ui/buttons/gfx_button.h>
 #include <kvt/ui/buttons/multi_gfx_button.h>
 #include <kvt/ui/buttons/normal_button.h>
+#include <kvt/ui/buttons/sign_button.h>
 
 #include "support/sprite_file.h"
 #include "support/surface_pair.h"
@@ -39,8 +41,8 @@ protected:
         sprite.FreeFrames();
     }
 
-    // The three buttons that share the mouse behaviour; the multi-image one
-    // has a single frame, so that a press repaints the same image.
+    // Kinds 0 to 3 share the mouse behaviour; the multi-image button has a
+    // single frame, so that a press repaints the same image.
     std::unique_ptr<CUIObject> Make(int kind)
     {
         if (kind == 0)
@@ -48,7 +50,14 @@ protected:
                                                      true);
         if (kind == 1)
             return std::make_unique<CUIGfxButton>(kLeft, kTop, kW, kH, &theme, &sprite, 0, false);
-        return std::make_unique<CUIMultiGfxButton>(kLeft, kTop, kW, kH, &theme, &sprite, false);
+        if (kind == 2)
+            return std::make_unique<CUIMultiGfxButton>(kLeft, kTop, kW, kH, &theme, &sprite,
+                                                       false);
+        if (kind == 3)
+            return std::make_unique<CUISignButton>(kLeft, kTop, kW, kH, &theme, CUISIGN_UP);
+        // Its box is 20 pixels square whatever its size: only the focus
+        // test, on a surface with room for it, makes one.
+        return std::make_unique<CUIBoolChooser>(kLeft, kTop, 30, 22, &theme, &font, "Ok", true);
     }
 
     kvt_test::GuardedSurface formatHolder{GetParam(), 1, 1}; // the sprites' format
@@ -56,7 +65,8 @@ protected:
     KVT_Sprite font, sprite;
 };
 
-const char *const kKinds[] = {"normal", "gfx", "multi"};
+const char *const kKinds[] = {"normal", "gfx", "multi", "sign", "bool chooser"};
+constexpr int kPressKinds = 4, kAllKinds = 5;
 
 struct CaptionCase {
     const char *what;
@@ -110,6 +120,8 @@ const MessageCase kMessages[] = {
     {"release inside", CUIMSG_MOUSEUP, 1, 1, SDL_RELEASED, true, int(CUIFrame::Active), false},
     {"release on the first column", CUIMSG_MOUSEUP, 0, 5, 0, true, int(CUIFrame::Rest), false},
     {"release past the last column", CUIMSG_MOUSEUP, kW, 5, 0, true, int(CUIFrame::Rest), false},
+    {"release past the last row", CUIMSG_MOUSEUP, 5, kH, 0, true, int(CUIFrame::Rest), false},
+    {"release far above", CUIMSG_MOUSEUP, 5, -40, 0, true, int(CUIFrame::Rest), false},
     {"enter, button held", CUIMSG_MOUSEENTER, 5, 5, SDL_BUTTON_LMASK, true,
      int(CUIFrame::Sunken), false},
     {"enter, no button", CUIMSG_MOUSEENTER, 5, 5, 0, true, int(CUIFrame::Active), false},
@@ -125,7 +137,7 @@ const MessageCase kMessages[] = {
 TEST_P(PressButtonPixels, EachMessagePaintsTheFrameOfItsStateOrNothing)
 {
     const KVT_RGBA marker = KVT_RGB(0, 255, 255, 0);
-    for (int kind = 0; kind < 3; ++kind)
+    for (int kind = 0; kind < kPressKinds; ++kind)
         for (const MessageCase &m : kMessages) {
             if (kind == 2 && m.multiTreats)
                 continue; // its own answers are checked with its frame cycling
@@ -142,6 +154,22 @@ TEST_P(PressButtonPixels, EachMessagePaintsTheFrameOfItsStateOrNothing)
                 theme.DrawFrame(s.expected, kLeft, kTop, kW, kH, CUIFrame(m.frame));
             EXPECT_EQ("", s.Difference()) << kKinds[kind] << ", " << m.what;
         }
+}
+
+// DRAW saves the ring around the button before painting, so the focus
+// frame goes away down to what lay there.
+TEST_P(PressButtonPixels, FocusFrameVanishesDownToTheBackground)
+{
+    for (int kind = 0; kind < kAllKinds; ++kind) {
+        SurfacePair s(GetParam(), 30 + 2 * kLeft, 22 + 2 * kTop, 7, kPad);
+        std::unique_ptr<CUIObject> button = Make(kind);
+        button->SendMessage(CUIMSG_DRAW, 0, 0, s.actual);
+        s.Settle();
+        EXPECT_TRUE(button->SendMessage(CUIMSG_FOCUSIN, 0, 0, s.actual)) << kKinds[kind];
+        EXPECT_NE("", s.Difference()) << kKinds[kind] << ": focus in paints the ring";
+        EXPECT_TRUE(button->SendMessage(CUIMSG_FOCUSOUT, 0, 0, s.actual)) << kKinds[kind];
+        EXPECT_EQ("", s.Difference()) << kKinds[kind] << ": focus out";
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, PressButtonPixels,

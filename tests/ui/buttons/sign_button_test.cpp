@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <kvt/draw/lines.h>
 #include <kvt/draw/pixel.h>
 #include <kvt/ui/buttons/sign_button.h>
 
@@ -73,70 +72,6 @@ TEST_P(SignButtonPixels, DrawPaintsFaceRestFrameAndTheArrow)
         PaintExpectedArrow(s.expected, a, theme.activeFirst);
         EXPECT_EQ("", s.Difference()) << a.what;
     }
-}
-
-// What each message paints over a drawn button, and its answer. A marker
-// covers the old frame first, so that painting the rest frame is told
-// apart from painting nothing.
-struct MessageCase {
-    const char *what;
-    int message;
-    int px, py; // pointer relative to the button's corner
-    intptr_t param2;
-    bool answer;
-    int frame; // a CUIFrame, or kNone: the message paints nothing
-};
-
-const int kW = 16, kH = 14;
-const int kSunken = int(CUIFrame::Sunken), kActive = int(CUIFrame::Active);
-const int kRest = int(CUIFrame::Rest), kNone = -1;
-const MessageCase kMessages[] = {
-    {"press", CUIMSG_MOUSEDOWN, 5, 5, SDL_PRESSED, true, kSunken},
-    {"release inside", CUIMSG_MOUSEUP, 1, 1, 0, true, kActive},
-    {"release on the first column", CUIMSG_MOUSEUP, 0, 5, 0, true, kRest},
-    {"release past the last row", CUIMSG_MOUSEUP, 5, kH, 0, true, kRest},
-    {"release far above", CUIMSG_MOUSEUP, 5, -40, 0, true, kRest},
-    {"enter with a button held", CUIMSG_MOUSEENTER, 5, 5, SDL_BUTTON_LMASK, true, kSunken},
-    {"enter with no button", CUIMSG_MOUSEENTER, 5, 5, 0, true, kActive},
-    {"leave", CUIMSG_MOUSELEAVE, 40, 5, SDL_BUTTON_LMASK, true, kRest},
-    {"key Return", CUIMSG_KEYDOWN, SDLK_RETURN, 0, 0, false, kNone},
-    {"char", CUIMSG_CHAR, 'a', 0, 0, false, kNone},
-    {"move", CUIMSG_MOUSEMOVE, 5, 5, SDL_BUTTON_LMASK, false, kNone},
-    {"refresh", CUIMSG_REFRESH, 0, 0, 0, false, kNone},
-    {"message 50", 50, 5, 5, 1, false, kNone},
-};
-
-TEST_P(SignButtonPixels, EachMessagePaintsTheFrameOfItsState)
-{
-    const KVT_RGBA marker = KVT_RGB(0, 255, 255, 0);
-    for (const MessageCase &m : kMessages) {
-        SurfacePair s(GetParam(), kW + 2 * kLeft, kH + 2 * kTop);
-        CUISignButton button(kLeft, kTop, kW, kH, &theme, 1);
-        button.SendMessage(CUIMSG_DRAW, 0, 0, s.actual);
-        KVT_Rect(s.actual, kLeft, kTop, kW, kH, marker);
-        s.Settle();
-        const bool key = m.message == CUIMSG_KEYDOWN || m.message == CUIMSG_CHAR;
-        const intptr_t param1 = key ? m.px : CUIPackPosition(kLeft + m.px, kTop + m.py);
-        EXPECT_EQ(m.answer, button.SendMessage(m.message, param1, m.param2, s.actual)) << m.what;
-        if (m.frame >= 0)
-            theme.DrawFrame(s.expected, kLeft, kTop, kW, kH, CUIFrame(m.frame));
-        EXPECT_EQ("", s.Difference()) << m.what;
-    }
-}
-
-// DRAW saves the ring around the button before painting, so the focus
-// frame goes away down to what lay there. The ring comes back through
-// SDL's blits, which want rows of whole pixels: a row padding of 4.
-TEST_P(SignButtonPixels, FocusFrameVanishesDownToTheBackground)
-{
-    SurfacePair s(GetParam(), kW + 2 * kLeft, kH + 2 * kTop, 7, 4);
-    CUISignButton button(kLeft, kTop, kW, kH, &theme, 2);
-    button.SendMessage(CUIMSG_DRAW, 0, 0, s.actual);
-    s.Settle();
-    EXPECT_TRUE(button.SendMessage(CUIMSG_FOCUSIN, 0, 0, s.actual));
-    EXPECT_NE("", s.Difference()) << "focus in paints the ring";
-    EXPECT_TRUE(button.SendMessage(CUIMSG_FOCUSOUT, 0, 0, s.actual));
-    EXPECT_EQ("", s.Difference()) << "focus out";
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, SignButtonPixels,

@@ -11,11 +11,11 @@
 #include <kvt/ui/dialogs/sdb_save_file.h>
 #include <kvt/ui/lists/string_list.h>
 
-#include "support/events.h"
 #include "support/sprite_file.h"
 #include "support/surface_pair.h"
 #include "support/temp_dir.h"
 #include "support/theme.h"
+#include "ui/dialogs/dialog_events.h"
 
 namespace {
 
@@ -23,9 +23,12 @@ namespace {
 constexpr int kX = 10, kY = 8, kW = 200, kH = 180, kSurfaceW = 230, kSurfaceH = 200;
 const char *const kTitle = "Pick", *const kOk = "OK", *const kCancel = "Cancel";
 
-struct Point {
-    int x, y;
-};
+using dialog_test::Click;
+using dialog_test::Events;
+using dialog_test::Join;
+using dialog_test::Point;
+using dialog_test::Type;
+
 // Inside the row area of the list, right of its 21-pixel scroll bar.
 Point Row(int n) { return {kX + 45, kY + 30 + 16 * n + 8}; }
 constexpr Point kOkButton{kX + 50, kY + kH - 20}, kCancelButton{kX + 150, kY + kH - 20},
@@ -46,28 +49,27 @@ void WithBody(bool save, int width, CUITheme *theme, KVT_Sprite *font, const cha
         run(CUISDBOpenFile(kX, kY, width, kH, theme, font, kTitle, kOk, kCancel));
 }
 
-// A directory with three names, a dot name and a folder, as the current one.
-struct Folder {
-    kvt_test::TempCurrentDir dir;
-    Folder()
-    {
-        for (const char *name : {"one.txt", "two.txt", "three.dat", ".hidden"})
-            EXPECT_TRUE(dir.MakeFile(name)) << name;
-        EXPECT_TRUE(dir.MakeDir("sub.txt"));
-    }
-};
-
+// Every test runs at every depth in a directory with three names, a dot
+// name and a folder, as the current one.
 class DialogBody : public ::testing::TestWithParam<kvt_test::FormatCase> {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(folder.dir.ok());
-        ASSERT_TRUE(kvt_test::LoadTestFont(&font, pair.actual.get()->format));
+        ASSERT_TRUE(dir.ok());
+        for (const char *name : {"one.txt", "two.txt", "three.dat", ".hidden"})
+            ASSERT_TRUE(dir.MakeFile(name)) << name;
+        ASSERT_TRUE(dir.MakeDir("sub.txt"));
+        ASSERT_TRUE(kvt_test::LoadTestFont(&font, surface.get()->format));
     }
-    void TearDown() override { font.FreeFrames(); }
+    void TearDown() override
+    {
+        EXPECT_TRUE(surface.GuardsIntact());
+        font.FreeFrames();
+    }
 
-    Folder folder;
+    kvt_test::TempCurrentDir dir;
     kvt_test::SurfacePair pair{GetParam(), kSurfaceW, kSurfaceH, 7, 4};
+    kvt_test::GuardedSurface &surface = pair.actual;
     CUITheme theme = kvt_test::DistinctTheme();
     KVT_Sprite font;
 };
@@ -93,29 +95,7 @@ TEST_P(DialogBody, FullDrawFramesTheBodyAndPlacesTheTitleFourPixelsRightOfCentre
         });
 }
 
-INSTANTIATE_TEST_SUITE_P(AllFormats, DialogBody, ::testing::ValuesIn(kvt_test::AllFormats()),
-                         [](const auto &info) { return kvt_test::FormatName(info.param); });
-
-class DialogBodyAt32 : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(folder.dir.ok());
-        ASSERT_TRUE(kvt_test::LoadTestFont(&font, surface.get()->format));
-    }
-    void TearDown() override
-    {
-        EXPECT_TRUE(surface.GuardsIntact());
-        font.FreeFrames();
-    }
-
-    Folder folder;
-    kvt_test::GuardedSurface surface{kvt_test::AllFormats()[5], kSurfaceW, kSurfaceH, 4};
-    CUITheme theme = kvt_test::DistinctTheme();
-    KVT_Sprite font;
-};
-
-TEST_F(DialogBodyAt32, ScanDirListsTheNamesExceptDotEntriesIntoSlotZero)
+TEST_P(DialogBody, ScanDirListsTheNamesExceptDotEntriesIntoSlotZero)
 {
     const struct {
         const char *suffix;
@@ -140,7 +120,7 @@ TEST_F(DialogBodyAt32, ScanDirListsTheNamesExceptDotEntriesIntoSlotZero)
             });
 }
 
-TEST_F(DialogBodyAt32, RectanglesFollowTheWidthIncludingAnOddOne)
+TEST_P(DialogBody, RectanglesFollowTheWidthIncludingAnOddOne)
 {
     // Hand-computed for x 10, y 8, height 180: buttons (width - 16) >> 1
     // wide with a gap of 8, leaving 4 on the right, or 5 for an odd width.
@@ -166,43 +146,6 @@ TEST_F(DialogBodyAt32, RectanglesFollowTheWidthIncludingAnOddOne)
         });
 }
 
-TEST_F(DialogBodyAt32, TabWalksListFieldOkCancelAndAround)
-{
-    // The slots are list, (field,) OK, Cancel: see the rectangles above.
-    for (bool save : {false, true})
-        WithBody(save, kW, &theme, &font, "", [&](auto &body) {
-            body.FullDraw(surface);
-            std::string walk = std::to_string(body.screen->focusWidget);
-            for (int i = 0; i < body.screen->nbWidgets; ++i) {
-                EXPECT_FALSE(body.SendMessage(kvt_test::KeyDownEvent(SDLK_TAB), surface));
-                walk += " " + std::to_string(body.screen->focusWidget);
-            }
-            EXPECT_EQ(save ? "0 1 2 3 0" : "0 1 2 0", walk);
-        });
-}
-
-// Events as a user makes them: clicks, and keys with '\t' and '\r' for Tab
-// and Return.
-using Events = std::vector<SDL_Event>;
-Events Click(Point at, Point release)
-{
-    return {kvt_test::ButtonDownEvent(at.x, at.y), kvt_test::ButtonUpEvent(release.x, release.y)};
-}
-Events Click(Point at) { return Click(at, at); }
-Events Keys(const char *text)
-{
-    Events events;
-    for (const char *c = text; *c; ++c)
-        events.push_back(kvt_test::KeyDownEvent(SDLKey(*c), Uint16(*c)));
-    return events;
-}
-Events Join(std::initializer_list<Events> parts)
-{
-    Events all;
-    for (const Events &part : parts)
-        all.insert(all.end(), part.begin(), part.end());
-    return all;
-}
 const Events kQuitAndKeyUp = {[] { SDL_Event e{}; e.type = SDL_QUIT; return e; }(),
                               kvt_test::KeyUpEvent(SDLK_RETURN)};
 
@@ -224,22 +167,25 @@ const Scenario kScenarios[] = {
     {"open: Cancel after a choice", false, "", Join({Click(Row(1)), Click(kCancelButton)}),
      true, nullptr},
     {"open: OK on an empty list", false, "zzz", Click(kOkButton), true, nullptr},
-    {"open: Return on the list", false, "", Keys("\r"), false, nullptr},
-    {"open: Return on OK", false, "", Keys("\t\r"), true, "0"},
-    {"open: Return on Cancel", false, "", Keys("\t\t\r"), true, nullptr},
+    {"open: Return on the list", false, "", Type("\r"), false, nullptr},
+    {"open: Return on OK", false, "", Type("\t\r"), true, "0"},
+    {"open: Return on Cancel", false, "", Type("\t\t\r"), true, nullptr},
+    {"open: Tab walks list, OK, Cancel and round", false, "", Type("\t\t\t\t\r"), true, "0"},
     {"open: release over the other button", false, "", Click(kOkButton, kCancelButton), false,
      nullptr},
     {"open: quit and a key release", false, "", kQuitAndKeyUp, false, nullptr},
     {"save: OK, empty field", true, "", Click(kOkButton), true, "", true},
     {"save: a clicked name overwrites typing, then is edited", true, "",
-     Join({Click(kField), Keys("zz"), Click(Row(1)), Keys("\tx"), Click(kOkButton)}), true,
+     Join({Click(kField), Type("zz"), Click(Row(1)), Type("\tx"), Click(kOkButton)}), true,
      "1x", true},
-    {"save: Return on the list copies the selection", true, "", Keys("\r"), false, "0"},
-    {"save: Return in the field", true, "", Keys("\ta\r"), false, "a"},
-    {"save: Return on OK", true, "", Keys("\t\t\r"), true, "", true},
-    {"save: Return on Cancel after typing", true, "", Keys("\tab\t\t\r"), true, "ab", false},
+    {"save: Return on the list copies the selection", true, "", Type("\r"), false, "0"},
+    {"save: Return in the field", true, "", Type("\ta\r"), false, "a"},
+    {"save: Return on OK", true, "", Type("\t\t\r"), true, "", true},
+    {"save: Return on Cancel after typing", true, "", Type("\tab\t\t\r"), true, "ab", false},
+    {"save: Tab walks list, field, OK, Cancel and round", true, "", Type("\t\t\t\t\t\t\r"),
+     true, "", true},
     {"save: a click in an empty list", true, "zzz",
-     Join({Click(kField), Keys("q"), Click(Row(0))}), false, "q"},
+     Join({Click(kField), Type("q"), Click(Row(0))}), false, "q"},
     {"save: release over the other button", true, "", Click(kCancelButton, kOkButton), false,
      ""},
 };
@@ -251,7 +197,7 @@ std::string Expected(const char *name, List *names)
     return static_cast<const char *>(names->GetElementN(name[0] - '0')) + std::string(name + 1);
 }
 
-TEST_F(DialogBodyAt32, EachSequenceEndsOrGoesOnWithTheRightName)
+TEST_P(DialogBody, EachSequenceEndsOrGoesOnWithTheRightName)
 {
     for (const Scenario &s : kScenarios)
         WithBody(s.save, kW, &theme, &font, s.suffix, [&](auto &body) {
@@ -269,5 +215,8 @@ TEST_F(DialogBodyAt32, EachSequenceEndsOrGoesOnWithTheRightName)
             }
         });
 }
+
+INSTANTIATE_TEST_SUITE_P(AllFormats, DialogBody, ::testing::ValuesIn(kvt_test::AllFormats()),
+                         [](const auto &info) { return kvt_test::FormatName(info.param); });
 
 } // namespace

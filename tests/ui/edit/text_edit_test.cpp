@@ -83,6 +83,7 @@ struct EditCase {
 
 const KVT_RGBA kMarker = KVT_RGB(0, 255, 255, 0);
 constexpr int kKey = CUIMSG_KEYDOWN, kChar = CUIMSG_CHAR;
+const char kNewText[] = "BCD";
 
 const EditCase kEdits[] = {
     {"backspace at 0", "abc", 0, false, kKey, SDLK_BACKSPACE, true, "abc", 0, false},
@@ -117,6 +118,8 @@ const EditCase kEdits[] = {
     {"a click leaves the caret", "abc", 1, false, CUIMSG_MOUSEDOWN, CUIPackPosition(kX + 1, kY + 1),
      false, "abc", 1, false},
     {"message 50", "abc", 1, false, 50, 'X', false, "abc", 1, false},
+    {"set text: shown at once, caret at the end", "abc", 0, false, CUIMSG_SETTEXT,
+     intptr_t(kNewText), true, "BCD", 3, true},
 };
 
 TEST_P(TextEditTest, EachEditChangesTextCaretAndPictureAsExpected)
@@ -197,25 +200,6 @@ TEST_P(TextEditTest, FrameFollowsPointerAndFocus)
     EXPECT_EQ("", unfocused.Difference()) << "focus gone";
 }
 
-// SetText changes the state only; CUIMSG_SETTEXT shows it at once. Both
-// put the caret at the end, where the constructor put it at the start.
-TEST_P(TextEditTest, SetTextWaitsWhereSetTextMessageShows)
-{
-    SurfacePair s(GetParam(), kSurfaceW, kSurfaceH, 7, kPadding);
-    auto field = Drawn(s.actual, "abc", 0, false, true);
-    s.Settle();
-    field->SetText("AB");
-    EXPECT_EQ(2, field->caret);
-    EXPECT_EQ("", s.Difference()) << "SetText drew";
-
-    const char newText[] = "BCD";
-    EXPECT_TRUE(field->SendMessage(CUIMSG_SETTEXT, intptr_t(newText), 0, s.actual));
-    EXPECT_STREQ(newText, field->GetText());
-    EXPECT_EQ(3, field->caret);
-    PaintField(s.expected, kW, "BCD", 8, true);
-    EXPECT_EQ("", s.Difference()) << "CUIMSG_SETTEXT";
-}
-
 // 255 characters fill the field: more typing is taken and ignored, and a
 // longer text is cut, so neither the buffer nor the count overflows.
 TEST_P(TextEditTest, HoldsAtMost255Characters)
@@ -227,14 +211,15 @@ TEST_P(TextEditTest, HoldsAtMost255Characters)
     EXPECT_TRUE(field->SendMessage(CUIMSG_CHAR, 'c', 0, s.actual));
     EXPECT_EQ("b" + full.substr(1), field->GetText()) << "typing into a full field";
     EXPECT_EQ(1, field->caret);
+    field->SetText((full + "!").c_str());
+    EXPECT_EQ(full, field->GetText()) << "SetText with one character too many";
+    EXPECT_EQ(255, field->caret) << "SetText puts the caret at the end";
+    EXPECT_EQ(255, field->length);
 
     const std::string tooLong = full + "xyz";
     EXPECT_TRUE(field->SendMessage(CUIMSG_SETTEXT, intptr_t(tooLong.c_str()), 0, s.actual));
     EXPECT_EQ(full, field->GetText()) << "a text longer than the field";
     EXPECT_EQ(255, field->caret);
-    field->SetText((full + "!").c_str());
-    EXPECT_EQ(full, field->GetText()) << "SetText with one character too many";
-    EXPECT_EQ(255, field->length);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, TextEditTest, ::testing::ValuesIn(kvt_test::AllFormats()),

@@ -34,6 +34,8 @@ const RowsCase kCases[] = {
      {"s0", "s1", "s2", "s3", "s4", "s5", "s6", "s7"}, 8, 2, "", {"s5", "s4", "s3", "s2", "s1"}},
     {"a string added later pushes the rows down and the oldest out of reach",
      {"ab", "cd"}, 2, 0, "new", {"new", "cd"}},
+    {"a row wider than the list is cut at the face", {"a string of text wider than the list"},
+     1, 0, "", {"a string of text wider than the list"}},
 };
 
 class StringListPixels : public ::testing::TestWithParam<FormatCase> {
@@ -67,8 +69,11 @@ void PaintExpected(SDL_Surface *surface, const CUITheme &theme, KVT_Sprite *font
         theme.DrawFrame(surface, left, kY + 1, w, kRow, CUIFrame::Active);
 }
 
+// Rows are cut at the face (nothing beside the list changes), inside
+// whatever clip rectangle the caller had, which is back afterwards.
 TEST_P(StringListPixels, RowsShowTheStringsOfTheList)
 {
+    const SDL_Rect callersClip = {1, 1, 88, 38};
     for (const RowsCase &c : kCases) {
         kvt_test::SurfacePair pair(GetParam(), 90, 40, 7, 4);
         List strings;
@@ -80,6 +85,8 @@ TEST_P(StringListPixels, RowsShowTheStringsOfTheList)
         if (!c.addedLater.empty())
             strings.AddElement(const_cast<char *>(c.addedLater.c_str()));
         list.scrollBar->SetBaseVal(c.base);
+        SDL_SetClipRect(pair.actual, &callersClip);
+        const std::vector<Uint8> before = pair.actual.PixelBytes();
         // Only the rows are compared: what DRAW leaves is taken as it is,
         // and the refresh must paint the rows anew over the restored face.
         list.SendMessage(CUIMSG_DRAW, 0, 0, pair.actual);
@@ -87,30 +94,12 @@ TEST_P(StringListPixels, RowsShowTheStringsOfTheList)
         PaintExpected(pair.expected, theme, &font, c);
         list.SendMessage(CUIMSG_REFRESH, 0, 0, pair.actual);
         EXPECT_EQ("", pair.Difference()) << c.what;
+        EXPECT_EQ("", kvt_test::ChangedOutside(pair.actual, before, SDL_Rect{kX, kY, kW, kH}))
+            << c.what;
+        SDL_Rect clip;
+        SDL_GetClipRect(pair.actual, &clip);
+        EXPECT_TRUE(clip.x == 1 && clip.y == 1 && clip.w == 88 && clip.h == 38) << c.what;
     }
-}
-
-// A row wider than the list, and glyphs that reach above their row, are
-// cut at the face: nothing beside the list changes, and the caller's clip
-// rectangle is back afterwards.
-TEST_P(StringListPixels, RowsStayInsideTheList)
-{
-    kvt_test::GuardedSurface surface(GetParam(), 90, 40, 4);
-    const std::vector<Uint8> before = surface.PixelBytes();
-    const std::string wide = "a string of text wider than the list";
-    List strings;
-    strings.AddElement(const_cast<char *>(wide.c_str()));
-    CUIStringList list(kX, kY, kW, kH, &theme, 1, kRow, kBar);
-    list.SetFont(&font);
-    list.SetStringList(&strings);
-    const SDL_Rect callersClip = {1, 1, 88, 38};
-    SDL_SetClipRect(surface, &callersClip);
-    list.SendMessage(CUIMSG_DRAW, 0, 0, surface);
-    list.SendMessage(CUIMSG_REFRESH, 0, 0, surface);
-    EXPECT_EQ("", kvt_test::ChangedOutside(surface, before, SDL_Rect{kX, kY, kW, kH}));
-    SDL_Rect clip;
-    SDL_GetClipRect(surface, &clip);
-    EXPECT_TRUE(clip.x == 1 && clip.y == 1 && clip.w == 88 && clip.h == 38);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, StringListPixels, ::testing::ValuesIn(kvt_test::AllFormats()),
