@@ -66,4 +66,25 @@ HeldKey::HeldKey(SDLKey key) : key_(key), before_(SDL_GetKeyState(nullptr)[key])
 
 HeldKey::~HeldKey() { SDL_GetKeyState(nullptr)[key_] = before_; }
 
+Events Join(std::initializer_list<Events> parts)
+{
+    Events all;
+    for (const Events &part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+Events Click(Point at, Point release)
+{
+    return {ButtonDownEvent(at.x, at.y), ButtonUpEvent(release.x, release.y)};
+}
+
+Events Type(const char *text)
+{
+    Events typed;
+    for (const char *c = text; *c != '\0'; ++c)
+        typed.push_back(KeyDownEvent(SDLKey(Uint8(*c)), Uint8(*c)));
+    return typed;
+}
+
 } // namespace kvt_test

@@ -5,6 +5,9 @@
 // so that widget tests can drive a screen without a display, and a way to
 // hold a key down in the array that SDL_GetKeyState(NULL) returns.
 
+#include <initializer_list>
+#include <vector>
+
 #include <SDL.h>
 
 namespace kvt_test {
@@ -29,6 +32,20 @@ private:
     SDLKey key_;
     Uint8 before_;
 };
+
+// Events as a user makes them, in runs: clicks (pressed at one point and
+// released at another, or at the same), and keys typed as text, with
+// '\t', '\r' and '\b' for Tab, Return and Backspace.
+using Events = std::vector<SDL_Event>;
+
+struct Point {
+    int x, y;
+};
+
+Events Join(std::initializer_list<Events> parts);
+Events Click(Point at, Point release);
+inline Events Click(Point at) { return Click(at, at); }
+Events Type(const char *text);
 
 } // namespace kvt_test
 

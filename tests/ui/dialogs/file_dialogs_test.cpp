@@ -13,11 +13,11 @@
 #include <kvt/ui/dialogs/file_dialogs.h>
 
 #include "support/event_script.h"
+#include "support/events.h"
 #include "support/sprite_file.h"
 #include "support/surfaces.h"
 #include "support/temp_dir.h"
 #include "support/theme.h"
-#include "ui/dialogs/dialog_events.h"
 
 namespace {
 
@@ -52,10 +52,10 @@ struct HangGuard {
     ~HangGuard() { alarm(0); }
 };
 
-using dialog_test::Click;
-using dialog_test::Events;
-using dialog_test::Join;
-using dialog_test::Type;
+using kvt_test::Click;
+using kvt_test::Events;
+using kvt_test::Join;
+using kvt_test::Type;
 using DialogCall = bool (*)(SDL_Surface *, int, int, int, int, CUITheme *, KVT_Sprite *,
                             const char *, const char *, const char *, char *, const char *);
 

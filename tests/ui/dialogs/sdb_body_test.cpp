@@ -11,11 +11,11 @@
 #include <kvt/ui/dialogs/sdb_save_file.h>
 #include <kvt/ui/lists/string_list.h>
 
+#include "support/events.h"
 #include "support/sprite_file.h"
 #include "support/surface_pair.h"
 #include "support/temp_dir.h"
 #include "support/theme.h"
-#include "ui/dialogs/dialog_events.h"
 
 namespace {
 
@@ -23,11 +23,11 @@ namespace {
 constexpr int kX = 10, kY = 8, kW = 200, kH = 180, kSurfaceW = 230, kSurfaceH = 200;
 const char *const kTitle = "Pick", *const kOk = "OK", *const kCancel = "Cancel";
 
-using dialog_test::Click;
-using dialog_test::Events;
-using dialog_test::Join;
-using dialog_test::Point;
-using dialog_test::Type;
+using kvt_test::Click;
+using kvt_test::Events;
+using kvt_test::Join;
+using kvt_test::Point;
+using kvt_test::Type;
 
 // Inside the row area of the list, right of its 21-pixel scroll bar.
 Point Row(int n) { return {kX + 45, kY + 30 + 16 * n + 8}; }
