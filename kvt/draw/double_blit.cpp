@@ -74,7 +74,7 @@ class PixelsInline {
 public:
     PixelsInline(SDL_Surface *surface, Pixel pixel)
         : base_(static_cast<Uint8 *>(surface->pixels)), pitch_(surface->pitch), pixel_(pixel),
-          form_(surface->format)
+          form_(ColourForm::Learned(surface->format))
     {
     }
     Rgb Get(int x, int y) const

@@ -44,13 +44,12 @@ bool MakeByteLanes(const SDL_PixelFormat *format, KVT_RGBA colour, ByteLanes *ou
     return true;
 }
 
-bool HasPacked16Channels(const SDL_PixelFormat *format)
+bool HasPacked16Channels(const ColourForm &form)
 {
-    const ColourForm form(format);
     auto packed = [](const ChannelForm &c) {
         return c.loss <= 4 && c.mask == Uint32(0xFF >> c.loss) << c.shift && c.mask <= 0xFFFF;
     };
-    return format->BytesPerPixel == 2 && form.Direct() && packed(form.Red()) &&
+    return form.Format()->BytesPerPixel == 2 && form.Direct() && packed(form.Red()) &&
            packed(form.Green()) && packed(form.Blue());
 }
 
@@ -61,7 +60,7 @@ void FillAlphaPlain(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 
 bool FillAlphaChannels(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    const ColourForm form(surface->format);
+    const ColourForm form = ColourForm::Learned(surface->format);
     if (!form.Direct())
         return false;
     FillWithForm(surface, area, colour, form);

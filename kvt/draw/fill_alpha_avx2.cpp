@@ -83,21 +83,26 @@ KVT_AVX2 void BlendByteRow(Uint8 *p, int n, const Period96 &wide, const sse2::Pe
 struct Channel16 {
     KVT_AVX2 Channel16(const ChannelForm &form, Uint32 product)
         : mask(_mm256_set1_epi16(Sint16(form.mask))), shift(_mm_cvtsi32_si128(form.shift)),
-          loss(_mm_cvtsi32_si128(form.loss)), back(_mm_cvtsi32_si128(8 - 2 * form.loss)),
+          loss(_mm_cvtsi32_si128(form.loss)),
+          widenMul(_mm256_set1_epi16(Sint16(form.widening.mul))),
+          widenShift(_mm_cvtsi32_si128(form.widening.shift)),
           product(_mm256_set1_epi16(Sint16(product)))
     {
     }
     KVT_AVX2 __m256i Blend(__m256i pixels, __m256i alpha) const
     {
         const __m256i field = _mm256_srl_epi16(_mm256_and_si256(pixels, mask), shift);
-        const __m256i wide =
-            _mm256_add_epi16(_mm256_sll_epi16(field, loss), _mm256_srl_epi16(field, back));
+        const __m256i extra =
+            _mm256_srl_epi16(_mm256_mullo_epi16(field, widenMul), widenShift);
+        const __m256i wide = _mm256_add_epi16(_mm256_sll_epi16(field, loss), extra);
         const __m256i mixed =
             _mm256_srli_epi16(_mm256_add_epi16(_mm256_mullo_epi16(wide, alpha), product), 8);
         return _mm256_sll_epi16(_mm256_srl_epi16(mixed, loss), shift);
     }
     __m256i mask;
-    __m128i shift, loss, back;
+    __m128i shift, loss;
+    __m256i widenMul;
+    __m128i widenShift;
     __m256i product;
 };
 
@@ -143,9 +148,11 @@ bool FillAlphaBytesAvx2(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 
 bool FillAlphaPacked16Avx2(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    if (!HasAvx2() || !HasPacked16Channels(surface->format))
+    if (!HasAvx2() || surface->format->BytesPerPixel != 2)
         return false;
-    const ColourForm form(surface->format);
+    const ColourForm form = ColourForm::Learned(surface->format);
+    if (!HasPacked16Channels(form))
+        return false;
     return WithDepthOf<2>(surface->format,
                           [&](auto pixel) { FillPacked16(surface, area, colour, form, pixel); });
 }

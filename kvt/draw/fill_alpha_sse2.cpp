@@ -15,25 +15,27 @@ namespace {
 using sse2::Load;
 using sse2::Store;
 
-// One channel of a 16-bit pixel, as SDL splits and maps it: the field is
-// widened to 8 bits by (f << loss) + (f >> (8 - 2 * loss)), blended, and
-// narrowed by dropping `loss` bits again.
+// One channel of a 16-bit pixel, as the loaded SDL splits and maps it:
+// the field is widened to 8 bits by (f << loss) + ((f * mul) >> shift)
+// (see Widening), blended, and narrowed by dropping `loss` bits again.
 struct Channel16 {
     Channel16(const ChannelForm &form, Uint32 product)
         : mask(_mm_set1_epi16(Sint16(form.mask))), shift(_mm_cvtsi32_si128(form.shift)),
-          loss(_mm_cvtsi32_si128(form.loss)), back(_mm_cvtsi32_si128(8 - 2 * form.loss)),
+          loss(_mm_cvtsi32_si128(form.loss)), widenMul(_mm_set1_epi16(Sint16(form.widening.mul))),
+          widenShift(_mm_cvtsi32_si128(form.widening.shift)),
           product(_mm_set1_epi16(Sint16(product)))
     {
     }
     __m128i Blend(__m128i pixels, __m128i alpha) const
     {
         const __m128i field = _mm_srl_epi16(_mm_and_si128(pixels, mask), shift);
-        const __m128i wide = _mm_add_epi16(_mm_sll_epi16(field, loss), _mm_srl_epi16(field, back));
+        const __m128i extra = _mm_srl_epi16(_mm_mullo_epi16(field, widenMul), widenShift);
+        const __m128i wide = _mm_add_epi16(_mm_sll_epi16(field, loss), extra);
         const __m128i mixed =
             _mm_srli_epi16(_mm_add_epi16(_mm_mullo_epi16(wide, alpha), product), 8);
         return _mm_sll_epi16(_mm_srl_epi16(mixed, loss), shift);
     }
-    __m128i mask, shift, loss, back, product;
+    __m128i mask, shift, loss, widenMul, widenShift, product;
 };
 
 void FillPacked16(SDL_Surface *surface, const Area &area, KVT_RGBA colour, const ColourForm &form,
@@ -73,9 +75,11 @@ bool FillAlphaBytesSse2(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 
 bool FillAlphaPacked16Sse2(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    if (!HasPacked16Channels(surface->format))
+    if (surface->format->BytesPerPixel != 2)
         return false;
-    const ColourForm form(surface->format);
+    const ColourForm form = ColourForm::Learned(surface->format);
+    if (!HasPacked16Channels(form))
+        return false;
     return WithDepthOf<2>(surface->format,
                           [&](auto pixel) { FillPacked16(surface, area, colour, form, pixel); });
 }

@@ -135,7 +135,7 @@ void KVT_Line(SDL_Surface *surface, int x1, int y1, int x2, int y2, KVT_RGBA col
         });
         return;
     }
-    const kvt::ColourForm form(surface->format);
+    const kvt::ColourForm form = kvt::ColourForm::Learned(surface->format);
     kvt::WithDepth(surface->format, [&](auto pixel) {
         walk.Run([&](int x, int y, Uint8 a) {
             Uint8 *p = canvas.At(x, y, pixel.kBytes);

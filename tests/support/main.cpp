@@ -7,6 +7,14 @@
 #include <SDL.h>
 #include <gtest/gtest.h>
 
+#include "support/surfaces.h"
+
+namespace {
+
+void FailRunningTest(const std::string &problem) { ADD_FAILURE() << problem; }
+
+} // namespace
+
 int main(int argc, char **argv)
 {
     setenv("SDL_VIDEODRIVER", "dummy", 1);
@@ -15,6 +23,7 @@ int main(int argc, char **argv)
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
     ::testing::InitGoogleTest(&argc, argv);
+    kvt_test::SetProblemReporter(FailRunningTest);
     int result = RUN_ALL_TESTS();
     SDL_Quit();
     return result;

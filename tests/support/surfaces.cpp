@@ -1,5 +1,6 @@
 #include "surfaces.h"
 
+#include <cstdio>
 #include <cstring>
 #include <sstream>
 
@@ -56,17 +57,69 @@ static void SetFullPalette(SDL_Surface *surface)
     SDL_SetColors(surface, colours, 0, 256);
 }
 
+bool LoadedSdlIsCompat()
+{
+    const SDL_version *version = SDL_Linked_Version();
+    return SDL_VERSIONNUM(version->major, version->minor, version->patch) >=
+           SDL_VERSIONNUM(1, 2, 50);
+}
+
+namespace {
+
+void (*problemReporter)(const std::string &) = nullptr;
+
+void ReportProblem(const std::string &problem)
+{
+    if (problemReporter != nullptr)
+        problemReporter(problem);
+    else
+        std::fprintf(stderr, "test kit: %s\n", problem.c_str());
+}
+
+// The format SDL_CreateRGBSurface makes when asked for `asked`; false
+// when it makes none.
+bool FormatSdlGives(const FormatCase &asked, FormatCase *given)
+{
+    SDL_Surface *probe = SDL_CreateRGBSurface(0, 1, 1, asked.bitsPerPixel, asked.rmask,
+                                              asked.gmask, asked.bmask, asked.amask);
+    if (probe == nullptr)
+        return false;
+    const SDL_PixelFormat *f = probe->format;
+    *given = {asked.name, f->BitsPerPixel, f->Rmask, f->Gmask, f->Bmask, f->Amask};
+    SDL_FreeSurface(probe);
+    return true;
+}
+
+} // namespace
+
+void SetProblemReporter(void (*report)(const std::string &problem)) { problemReporter = report; }
+
+SDL_Surface *GuardedSurface::Make(const FormatCase &pixelFormat, int width, int height,
+                                  int rowPadding)
+{
+    const int bytes = (pixelFormat.bitsPerPixel + 7) / 8;
+    rowBytes_ = width * bytes;
+    const int pitch = rowBytes_ + rowPadding;
+    memory_.assign(size_t(kGuardBytes * 2 + pitch * height), kGuard);
+    SDL_Surface *surface = SDL_CreateRGBSurfaceFrom(
+        memory_.data() + kGuardBytes, width, height, pixelFormat.bitsPerPixel, pitch,
+        pixelFormat.rmask, pixelFormat.gmask, pixelFormat.bmask, pixelFormat.amask);
+    if (surface != nullptr && surface->format->BitsPerPixel == 8)
+        SetFullPalette(surface);
+    return surface;
+}
+
 GuardedSurface::GuardedSurface(const FormatCase &pixelFormat, int width, int height, int rowPadding)
 {
-    int bytes = pixelFormat.bitsPerPixel / 8;
-    rowBytes_ = width * bytes;
-    int pitch = rowBytes_ + rowPadding;
-    memory_.assign(size_t(kGuardBytes * 2 + pitch * height), kGuard);
-    surface_ = SDL_CreateRGBSurfaceFrom(memory_.data() + kGuardBytes, width, height,
-                                        pixelFormat.bitsPerPixel, pitch, pixelFormat.rmask, pixelFormat.gmask,
-                                        pixelFormat.bmask, pixelFormat.amask);
-    if (pixelFormat.bitsPerPixel == 8)
-        SetFullPalette(surface_);
+    surface_ = Make(pixelFormat, width, height, rowPadding);
+    FormatCase given;
+    if (surface_ == nullptr && FormatSdlGives(pixelFormat, &given))
+        surface_ = Make(given, width, height, rowPadding);
+    if (surface_ == nullptr) {
+        ReportProblem(std::string("SDL made no surface of format ") + pixelFormat.name + ": " +
+                      SDL_GetError());
+        surface_ = Make(AllFormats()[5], width, height, rowPadding);
+    }
 }
 
 GuardedSurface::~GuardedSurface() { SDL_FreeSurface(surface_); }

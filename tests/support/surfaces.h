@@ -33,10 +33,27 @@ std::vector<FormatCase> TrueColourFormats();
 // alpha, alpha in the top byte of 32 bits, 6-6-6 channels in 32 bits.
 const std::vector<FormatCase> &MoreFormats();
 
+// True when the loaded SDL is sdl12-compat (1.2.50 and later) rather than
+// classic SDL 1.2 (1.2.15): the two differ where SDL itself decides
+// (formats, blits, waits), and tests check the library against what the
+// loaded one did.
+bool LoadedSdlIsCompat();
+
+// Where the kit reports a problem that must fail the running test, such
+// as a surface that SDL would not make; the test main sends it to
+// GoogleTest. Without a reporter the problem goes to stderr.
+void SetProblemReporter(void (*report)(const std::string &problem));
+
 // For INSTANTIATE_TEST_SUITE_P names, and for GoogleTest's printing.
 std::string FormatName(const FormatCase &pixelFormat);
 void PrintTo(const FormatCase &pixelFormat, std::ostream *out);
 
+// A surface of the format asked for, or, where the loaded SDL does not
+// make that format (sdl12-compat refuses masks that SDL 2 has no name
+// for), of the format that SDL_CreateRGBSurface gives for the same
+// request, as an application asking for it would get. When SDL gives
+// nothing at all, the problem is reported and the surface is 32-bit
+// XRGB, so that the test fails with a message instead of crashing.
 class GuardedSurface {
 public:
     GuardedSurface(const FormatCase &pixelFormat, int width, int height, int rowPadding = 5);
@@ -57,6 +74,9 @@ public:
     std::vector<Uint8> PixelBytes() const;
 
 private:
+    // The surface over fresh guarded memory; null when SDL refuses.
+    SDL_Surface *Make(const FormatCase &pixelFormat, int width, int height, int rowPadding);
+
     static constexpr Uint8 kGuard = 0xA5;
     static constexpr int kGuardBytes = 64;
     SDL_Surface *surface_;

@@ -78,10 +78,11 @@ bool FillAlphaChannels(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 // 3 and 4 bytes per pixel with whole-byte channels, byte by byte.
 bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 
-// True for 2-byte true-colour formats whose channels are contiguous fields
-// of 4 to 8 bits: the widening shift of SDL's split, 8 - 2 * loss, is then
-// defined, and every step of the blend fits a 16-bit lane.
-bool HasPacked16Channels(const SDL_PixelFormat *format);
+// True for a learned form (ColourForm::Learned) of a 2-byte format that
+// splits inline and whose channels are contiguous fields of 4 to 8 bits:
+// every step of the split, the blend and the mapping then fits a 16-bit
+// lane.
+bool HasPacked16Channels(const ColourForm &form);
 
 #if defined(__SSE2__)
 // FillAlphaBytes on 16 bytes at a time.
