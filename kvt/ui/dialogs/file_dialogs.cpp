@@ -35,13 +35,14 @@ void CoverArea(KVT_RegionSaver &under, SDL_Surface *surface, int x, int y, int w
 }
 
 // Draws the scanned body, then hands it every event until it is finished.
-// False when SDL could not wait for an event.
+// False when SDL could not wait for an event. Only 1 means an event came:
+// classic SDL reports a failed wait with 0, sdl12-compat with -1.
 bool RunBody(CUISDBTemplate &body, SDL_Surface *surface)
 {
     body.FullDraw(surface);
     ShowWholeSurface(surface);
     SDL_Event event;
-    while (SDL_WaitEvent(&event) != 0)
+    while (SDL_WaitEvent(&event) == 1)
         if (body.SendMessage(event, surface))
             return true;
     return false;
