@@ -36,6 +36,7 @@ bool KVT_RegionSaver::SaveRegion(SDL_Surface *surface, int x, int y, int width, 
     area.y = Sint16(y);
     area.w = Uint16(width);
     area.h = Uint16(height);
+    saved_ = area;
     if (image != nullptr)
         SDL_FreeSurface(image);
     const SDL_PixelFormat *f = surface->format;
@@ -58,9 +59,6 @@ bool KVT_RegionSaver::RestaurRegion(SDL_Surface *surface)
     if (image == nullptr)
         return false;
     SDL_Rect source = {0, 0, Uint16(image->w), Uint16(image->h)};
-    // The blit clips the rectangle it is given and writes the result back;
-    // handing it `area` itself would shift a strip that hangs off the
-    // surface by the clipped amount at the next restore.
-    SDL_Rect target = area;
-    return SDL_UpperBlit(image, &source, surface, &target) == 0;
+    area = saved_;
+    return SDL_UpperBlit(image, &source, surface, &area) == 0;
 }

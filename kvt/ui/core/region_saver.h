@@ -9,7 +9,9 @@
 
 class KVT_RegionSaver {
 public:
-    SDL_Rect area;      // the rectangle last saved (16-bit fields)
+    // The rectangle last saved (16-bit fields); after a restore, the part
+    // of it that the restoring blit put on the surface.
+    SDL_Rect area;
     SDL_Surface *image; // the saved pixels, owned; null until the first save
 
     KVT_RegionSaver() : image(nullptr) {}
@@ -22,8 +24,15 @@ public:
     // copy succeeded.
     bool SaveRegion(SDL_Surface *surface, int x, int y, int width, int height);
     // Puts the image back where it was taken; it stays, so it can be put
-    // back again. False when nothing was saved or the copy failed.
+    // back again. The blit clips `area` in place. False when nothing was
+    // saved or the copy failed.
     bool RestaurRegion(SDL_Surface *surface);
+
+private:
+    // The rectangle as saved: every restore starts from it, since a
+    // rectangle that hangs off the surface comes back from the blit cut,
+    // and restoring through the cut one would shift the image.
+    SDL_Rect saved_ = {0, 0, 0, 0};
 };
 
 #endif

@@ -1,4 +1,6 @@
 #include <random>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -26,29 +28,47 @@ TEST(RegionSaver, RestoreBeforeAnySaveFailsAndASecondSaveReplacesTheFirst)
 
 class RegionSaverAtFormat : public ::testing::TestWithParam<FormatCase> {};
 
-// Save, scribble over everything, restore: the saved part of the rectangle
-// comes back byte for byte, nothing else changes, and the caller's surface
-// keeps its blending settings.
+// Save, scribble over everything, restore, twice: the saved part of the
+// rectangle comes back byte for byte both times, nothing else changes,
+// and the caller's surface keeps its blending settings. The restoring
+// blit cuts `area` to the part it put back, at every edge.
 TEST_P(RegionSaverAtFormat, RestoreBringsBackExactlyTheSavedPixelsOnTheSurface)
 {
     const int w = 20, h = 14;
-    const SDL_Rect rects[] = {{3, 4, 10, 5}, {-2, -3, 6, 7}, {w - 3, h - 2, 8, 6}, {-1, -1, 30, 30}};
+    struct Case {
+        SDL_Rect saved, cut;
+    };
+    const Case cases[] = {
+        {{3, 4, 10, 5}, {3, 4, 10, 5}},         {{-2, 3, 6, 2}, {0, 3, 4, 2}},
+        {{5, -3, 4, 7}, {5, 0, 4, 4}},          {{w - 3, 2, 8, 6}, {w - 3, 2, 3, 6}},
+        {{4, h - 2, 5, 6}, {4, h - 2, 5, 2}},   {{-2, -3, 6, 7}, {0, 0, 4, 4}},
+        {{-1, -1, 30, 30}, {0, 0, Uint16(w), Uint16(h)}},
+    };
     std::mt19937 rng(7);
-    for (const SDL_Rect &r : rects) {
+    for (const Case &c : cases) {
+        const SDL_Rect &r = c.saved;
         GuardedSurface surface(GetParam(), w, h);
         surface.FillRandom(rng);
         Uint32 flags = surface.get()->flags;
         ExpectedPixels saved(surface);
         KVT_RegionSaver saver;
         ASSERT_TRUE(saver.SaveRegion(surface, r.x, r.y, r.w, r.h));
-        surface.FillRandom(rng);
-        ExpectedPixels expected(surface);
-        for (int y = std::max(0, int(r.y)); y < std::min(h, r.y + r.h); ++y)
-            for (int x = std::max(0, int(r.x)); x < std::min(w, r.x + r.w); ++x)
-                expected.Set(x, y, saved.Get(x, y));
-        EXPECT_TRUE(saver.RestaurRegion(surface));
-        EXPECT_EQ(expected.Differences(surface), "")
-            << "restoring (" << r.x << ", " << r.y << ", " << r.w << ", " << r.h << ")";
+        for (int round = 0; round < 2; ++round) {
+            surface.FillRandom(rng);
+            ExpectedPixels expected(surface);
+            for (int y = std::max(0, int(r.y)); y < std::min(h, r.y + r.h); ++y)
+                for (int x = std::max(0, int(r.x)); x < std::min(w, r.x + r.w); ++x)
+                    expected.Set(x, y, saved.Get(x, y));
+            EXPECT_TRUE(saver.RestaurRegion(surface));
+            const std::string what = "restoring (" + std::to_string(r.x) + ", " +
+                                     std::to_string(r.y) + ", " + std::to_string(r.w) + ", " +
+                                     std::to_string(r.h) + "), round " + std::to_string(round);
+            EXPECT_EQ(expected.Differences(surface), "") << what;
+            const SDL_Rect &a = saver.area;
+            EXPECT_EQ(std::vector<int>({c.cut.x, c.cut.y, c.cut.w, c.cut.h}),
+                      std::vector<int>({a.x, a.y, a.w, a.h}))
+                << what << ": area after the restore";
+        }
         EXPECT_EQ(surface.get()->flags, flags) << "saving changed the surface's flags";
     }
 }
