@@ -6,14 +6,16 @@ BENCH_BUILD ?= build-bench
 ARMHF_BUILD ?= build-armhf
 JOBS       ?= $(shell nproc)
 
+# libsdl1.2-compat puts sdl12-compat beside classic SDL 1.2, for the test
+# that compares the demo's pictures on both and for test-compat.
 BASE_DEPS  = cmake make g++ pkg-config libsdl1.2-dev libgtest-dev libpng-dev xvfb xdotool \
-             libsdl-image1.2-dev libsdl-ttf2.0-dev fonts-dejavu-core valgrind
+             libsdl-image1.2-dev libsdl-ttf2.0-dev fonts-dejavu-core valgrind libsdl1.2-compat
 BENCH_DEPS = libbenchmark-dev libsdl-gfx1.2-dev python3
 # The cross compiler, the emulator, and what building SDL, zlib and libpng
 # from Debian's source packages takes.
 ARMHF_DEPS = g++-arm-linux-gnueabihf qemu-user-static dpkg-dev autoconf automake libtool
 
-.PHONY: all deps build demo test sanitize test-armhf bench clean
+.PHONY: all deps build demo test test-compat sanitize test-armhf bench clean
 
 all: build
 
@@ -39,6 +41,16 @@ demo: build
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 
+# The same tree's whole suite on sdl12-compat (the SDL 1.2 interface on
+# SDL 2, installed beside classic SDL by libsdl1.2-compat), the window
+# tests under Xvfb included: the programs built against classic SDL are
+# pointed at SDL12_COMPAT_DIR by LD_LIBRARY_PATH. Fails when kvt-sdl-version
+# reports that classic SDL was loaded all the same, and when any test is
+# skipped.
+SDL12_COMPAT_DIR ?= /usr/lib/$(shell gcc -print-multiarch)/sdl12-compat
+test-compat: build
+	scripts/test-compat.sh $(BUILD) $(SDL12_COMPAT_DIR) $(JOBS)
+
 # The same suite under AddressSanitizer and UndefinedBehaviorSanitizer, in
 # its own tree; any report fails the run.
 sanitize: deps
@@ -56,7 +68,8 @@ sanitize: deps
 #   valgrind:  valgrind runs host programs only; it cannot look inside the emulator
 #   bench:     timings under emulation say nothing about a real ARM processor
 #   fuzz:      the fuzzers need the host compiler's fuzzing runtime
-ARMHF_SKIP_LABELS = ^(window|packaging|valgrind|bench|fuzz)$$
+#   compat:    compares the host's classic SDL with its sdl12-compat
+ARMHF_SKIP_LABELS = ^(window|packaging|valgrind|bench|fuzz|compat)$$
 test-armhf: deps
 	@scripts/install-deps.sh $(ARMHF_DEPS)
 	scripts/armhf-sysroot.sh $(ARMHF_BUILD)

@@ -1,6 +1,13 @@
 // kvt-png-check FILE WIDTH HEIGHT MIN_COLOURS: exit code 0 when FILE is a
 // PNG that libpng reads whole, of the given size, showing at least
 // MIN_COLOURS different colours (so a blank or nearly blank picture fails).
+//
+// kvt-png-check --compare FILE_A FILE_B: compares two PNGs pixel for pixel
+// and prints one line, "identical" or how many pixels differ, the first of
+// them (in reading order) with both colours, the box holding them all and
+// the largest difference in any channel. Exit code 0 when identical, 1
+// when pixels differ, 2 when a file is unreadable or the sizes differ.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -26,16 +33,8 @@ static bool ReadRgb(const char *path, png_image *image, std::vector<unsigned cha
     return true;
 }
 
-int main(int argc, char **argv)
+static int CheckPicture(const char *path, unsigned width, unsigned height, size_t minColours)
 {
-    if (argc != 5) {
-        std::fprintf(stderr, "usage: %s FILE WIDTH HEIGHT MIN_COLOURS\n", argv[0]);
-        return 2;
-    }
-    const char *path = argv[1];
-    unsigned width = unsigned(std::atoi(argv[2]));
-    unsigned height = unsigned(std::atoi(argv[3]));
-    size_t minColours = size_t(std::atoi(argv[4]));
     png_image image;
     std::vector<unsigned char> pixels;
     if (!ReadRgb(path, &image, &pixels))
@@ -54,4 +53,64 @@ int main(int argc, char **argv)
         return 1;
     }
     return 0;
+}
+
+static int ComparePictures(const char *pathA, const char *pathB)
+{
+    png_image a, b;
+    std::vector<unsigned char> pixelsA, pixelsB;
+    if (!ReadRgb(pathA, &a, &pixelsA) || !ReadRgb(pathB, &b, &pixelsB))
+        return 2;
+    if (a.width != b.width || a.height != b.height) {
+        std::printf("sizes differ: %ux%u against %ux%u\n", a.width, a.height, b.width, b.height);
+        return 2;
+    }
+    // Reading order makes the first difference the top-most, then left-most.
+    unsigned long count = 0;
+    unsigned firstX = 0, firstY = 0;
+    unsigned left = a.width, top = a.height, right = 0, bottom = 0;
+    int largest = 0;
+    for (unsigned y = 0; y < a.height; ++y) {
+        for (unsigned x = 0; x < a.width; ++x) {
+            size_t at = (size_t(y) * a.width + x) * 3;
+            if (std::memcmp(&pixelsA[at], &pixelsB[at], 3) == 0)
+                continue;
+            if (count++ == 0) {
+                firstX = x;
+                firstY = y;
+            }
+            left = std::min(left, x);
+            right = std::max(right, x);
+            top = std::min(top, y);
+            bottom = std::max(bottom, y);
+            for (int c = 0; c < 3; ++c)
+                largest = std::max(largest, std::abs(pixelsA[at + c] - pixelsB[at + c]));
+        }
+    }
+    if (count == 0) {
+        std::printf("identical\n");
+        return 0;
+    }
+    size_t first = (size_t(firstY) * a.width + firstX) * 3;
+    std::printf("%lu pixels differ, first at (%u,%u): %d,%d,%d against %d,%d,%d; all within "
+                "(%u,%u)-(%u,%u), channels off by at most %d\n",
+                count, firstX, firstY, pixelsA[first], pixelsA[first + 1], pixelsA[first + 2],
+                pixelsB[first], pixelsB[first + 1], pixelsB[first + 2], left, top, right, bottom,
+                largest);
+    return 1;
+}
+
+int main(int argc, char **argv)
+{
+    if (argc == 4 && std::strcmp(argv[1], "--compare") == 0)
+        return ComparePictures(argv[2], argv[3]);
+    if (argc != 5) {
+        std::fprintf(stderr,
+                     "usage: %s FILE WIDTH HEIGHT MIN_COLOURS\n"
+                     "       %s --compare FILE_A FILE_B\n",
+                     argv[0], argv[0]);
+        return 2;
+    }
+    return CheckPicture(argv[1], unsigned(std::atoi(argv[2])), unsigned(std::atoi(argv[3])),
+                        size_t(std::atoi(argv[4])));
 }
