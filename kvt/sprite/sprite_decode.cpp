@@ -2,6 +2,7 @@
 
 #include <kvt/draw/colour.h>
 #include <kvt/draw/depth.h>
+#include <kvt/draw/internal/byte_channels.h>
 #include <kvt/draw/pixel.h>
 #include <kvt/sprite/internal/decode_paths.h>
 
@@ -33,6 +34,20 @@ private:
     Uint32 value_;
 };
 
+// A 4-byte target whose channels lie where the file keeps them (red in
+// bits 16-23, green 8-15, blue 0-7), as in the usual 32-bit display
+// format: mapping a pixel word is then keeping its low 24 bits and ORing
+// Amask in, which SDL_MapRGB of its three bytes gives too.
+bool HoldsFileWords(const SDL_PixelFormat *format, Uint32 *amask)
+{
+    ByteChannels layout;
+    if (!FindByteChannels(format, &layout) || layout.bytes != 4 || layout.red != 16 ||
+        layout.green != 8 || layout.blue != 0)
+        return false;
+    *amask = layout.amask;
+    return true;
+}
+
 } // namespace
 
 void DecodeFramePlain(SDL_Surface *surface, const FrameRuns &runs)
@@ -63,6 +78,8 @@ void DecodeFrame(SDL_Surface *surface, const FrameRuns &runs)
         constexpr int kBytes = decltype(pixel)::kBytes;
         const Uint32 key = form.Map(255, 0, 255);
         LastColour colour(form);
+        Uint32 amask = 0;
+        const bool fileWords = kBytes == 4 && HoldsFileWords(surface->format, &amask);
         for (int y = 0; y < height; ++y) {
             const RowSpan &span = runs.rows[y];
             Uint8 *const row = PixelAddress(surface, 0, y);
@@ -75,6 +92,11 @@ void DecodeFrame(SDL_Surface *surface, const FrameRuns &runs)
                 },
                 [&](int x, const Uint32 *pixels, int n) {
                     Uint8 *p = row + ptrdiff_t(x) * kBytes;
+                    if (fileWords) {
+                        for (int k = 0; k < n; ++k, p += kBytes)
+                            pixel.Store(p, (pixels[k] & 0xFFFFFFu) | amask);
+                        return;
+                    }
                     for (int k = 0; k < n; ++k, p += kBytes)
                         pixel.Store(p, colour.Map(pixels[k]));
                 });

@@ -125,6 +125,9 @@ TEST_P(SpriteLoadFormats, FastDecodeEqualsPlainDecode)
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, SpriteLoadFormats, ::testing::ValuesIn(kvt_test::AllFormats()),
                          [](const auto &info) { return kvt_test::FormatName(info.param); });
+INSTANTIATE_TEST_SUITE_P(MoreFormats, SpriteLoadFormats,
+                         ::testing::ValuesIn(kvt_test::MoreFormats()),
+                         [](const auto &info) { return kvt_test::FormatName(info.param); });
 
 class SpriteFile : public ::testing::Test {
 protected:
