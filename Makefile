@@ -15,7 +15,7 @@ BENCH_DEPS = libbenchmark-dev libsdl-gfx1.2-dev python3
 # from Debian's source packages takes.
 ARMHF_DEPS = g++-arm-linux-gnueabihf qemu-user-static dpkg-dev autoconf automake libtool
 
-.PHONY: all deps build demo test test-compat sanitize test-armhf bench clean
+.PHONY: all deps build demo test test-compat sanitize test-armhf bench bench-compat clean
 
 all: build
 
@@ -87,7 +87,13 @@ bench: deps
 	cmake -S . -B $(BENCH_BUILD) -DCMAKE_BUILD_TYPE=Release -DKVT_BUILD_BENCH=ON \
 	  -DKVT_BUILD_TESTS=OFF >/dev/null
 	cmake --build $(BENCH_BUILD) -j $(JOBS)
-	python3 bench/ratios.py $(BENCH_BUILD)/bench/kvt-bench -- $(BENCH_ARGS)
+	$(BENCH_ENV) python3 bench/ratios.py $(BENCH_BUILD)/bench/kvt-bench -- $(BENCH_ARGS)
+
+# The same benchmarks on sdl12-compat, whose blitters are the references
+# of some ratios; the table starts with the SDL version that was loaded.
+bench-compat:
+	@scripts/install-deps.sh libsdl1.2-compat
+	$(MAKE) bench BENCH_ENV=LD_LIBRARY_PATH=$(SDL12_COMPAT_DIR)
 
 # libFuzzer targets built by clang with AddressSanitizer and
 # UndefinedBehaviorSanitizer, in their own tree. Each runs FUZZ_SECONDS on

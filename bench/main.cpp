@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include <SDL.h>
 #include <benchmark/benchmark.h>
@@ -23,6 +24,12 @@ int main(int argc, char **argv)
     kvt_bench::RegisterBlitBenchmarks();
     kvt_bench::RegisterLineBenchmarks();
     kvt_bench::RegisterSpriteBenchmarks();
+    // Classic SDL 1.2 or sdl12-compat: the references are SDL's own
+    // blitters, so a result only means something with the SDL it ran on.
+    const SDL_version *v = SDL_Linked_Version();
+    benchmark::AddCustomContext("sdl_version", std::to_string(v->major) + "." +
+                                                   std::to_string(v->minor) + "." +
+                                                   std::to_string(v->patch));
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

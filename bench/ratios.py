@@ -117,9 +117,20 @@ def print_ratios(times):
     return misses
 
 
+def describe_sdl(version):
+    """sdl12-compat numbers itself from 1.2.50 on; classic SDL stops at 1.2.15."""
+    try:
+        patch = int(version.split(".")[2])
+    except (IndexError, ValueError):
+        return "SDL of unknown version"
+    return "SDL %s (%s)" % (version, "sdl12-compat" if patch >= 50 else "classic SDL 1.2")
+
+
 def main():
     args = parse_args()
-    times = times_by_repetition(run(args))
+    report = run(args)
+    print(describe_sdl(report.get("context", {}).get("sdl_version", "")) + "\n")
+    times = times_by_repetition(report)
     print_times(times)
     misses = print_ratios(times)
     return 1 if misses else 0
