@@ -67,13 +67,15 @@ public:
     // Costs no library call: maps inline, and splits inline where every
     // SDL widens alike (channels of 8 and 4 bits); other splits ask
     // SDL_GetRGB. For calls that map colours or split a pixel or two.
-    explicit ColourForm(const SDL_PixelFormat *format) : format_(format), viaSdl_(false)
+    explicit ColourForm(const SDL_PixelFormat *format)
+        : format_(format),
+          mapInline_(format->palette == nullptr && format->Rloss <= 8 && format->Gloss <= 8 &&
+                     format->Bloss <= 8),
+          splitInline_(false), viaSdl_(false),
+          red_{format->Rmask, format->Rshift, format->Rloss, {0, 0}},
+          green_{format->Gmask, format->Gshift, format->Gloss, {0, 0}},
+          blue_{format->Bmask, format->Bshift, format->Bloss, {0, 0}}
     {
-        mapInline_ = format->palette == nullptr && format->Rloss <= 8 && format->Gloss <= 8 &&
-                     format->Bloss <= 8;
-        red_ = {format->Rmask, format->Rshift, format->Rloss, {0, 0}};
-        green_ = {format->Gmask, format->Gshift, format->Gloss, {0, 0}};
-        blue_ = {format->Bmask, format->Bshift, format->Bloss, {0, 0}};
         splitInline_ = mapInline_ && HasSeparateWholeFields();
         ChannelForm *const channels[3] = {&red_, &green_, &blue_};
         for (ChannelForm *c : channels) {
