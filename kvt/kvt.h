@@ -31,6 +31,8 @@
 #include <kvt/math/matrix.h>
 #include <kvt/util/list.h>
 #include <kvt/util/dirlister.h>
+#include <kvt/util/name_scan.h>
+#include <kvt/util/char_code.h>
 #include <kvt/ui/lists/file_chooser.h>
 #include <kvt/ui/dialogs/sdb_template.h>
 #include <kvt/ui/dialogs/sdb_open_file.h>

@@ -2,16 +2,15 @@
 #include <climits>
 
 #include <kvt/sprite/text.h>
+#include <kvt/util/char_code.h>
 
 namespace {
 
-// The frame of a character, or false when it has none. The character is
-// read as signed whatever the signedness of plain char, so that codes of
-// 128 and more have no frame on every processor.
+// The frame of a character, or false when it has none. Codes of 128 and
+// more read as negative, so they have no frame on every processor.
 bool GlyphOf(const KVT_Sprite *font, char character, Uint32 *frame)
 {
-    const int code = static_cast<unsigned char>(character);
-    const int index = (code < 128 ? code : code - 256) - 32;
+    const int index = KVT_SignedCharCode(character) - 32;
     if (index < 0 || Uint32(index) >= font->nbFrames)
         return false;
     *frame = Uint32(index);

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include <kvt/util/char_code.h>
+
 namespace {
 
 // Widgets draw straight on the surface; this is the one moment it goes to
@@ -83,10 +85,8 @@ void CUIScreen::OnKeyDown(const SDL_KeyboardEvent &key, SDL_Surface *surface)
             clickedWidget = focusWidget;
     }
     keyWidget = focusWidget;
-    // The low byte as a signed char, explicitly: plain char is unsigned on
-    // some processors, and codes of 128 and above must arrive negative.
-    Focused()->SendMessage(CUIMSG_CHAR, static_cast<signed char>(key.keysym.unicode & 0xff), 0,
-                           surface);
+    // Only the low byte travels, codes of 128 and above arriving negative.
+    Focused()->SendMessage(CUIMSG_CHAR, KVT_SignedCharCode(key.keysym.unicode), 0, surface);
     Update(surface);
 }
 

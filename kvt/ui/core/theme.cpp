@@ -121,5 +121,8 @@ void CUITheme::DrawFrame(SDL_Surface *surface, int x, int y, int w, int h, CUIFr
     case CUIFrame::SunkenRest:
         KVT_RectShade(surface, x, y, w, h, restLast, restMid, restFirst);
         break;
+    case CUIFrame::Hover:
+        KVT_RectShade(surface, x, y, w, h, activeFirst, restMid, activeLast);
+        break;
     }
 }

@@ -9,6 +9,7 @@
 #include <SDL.h>
 
 #include <kvt/draw/rgba.h>
+#include <kvt/export.h>
 
 // The four bevel frames that widgets draw, named by where they show.
 enum class CUIFrame {
@@ -16,9 +17,10 @@ enum class CUIFrame {
     Active,     // activeFirst, activeMid, activeLast
     Sunken,     // activeLast, activeMid, activeFirst
     SunkenRest, // restLast, restMid, restFirst
+    Hover,      // activeFirst, restMid, activeLast: a text field under the pointer
 };
 
-class CUITheme {
+class KVT_API CUITheme {
 public:
     KVT_RGBA activeFirst;
     KVT_RGBA activeMid; // computed by RepackColor

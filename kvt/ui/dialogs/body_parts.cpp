@@ -1,48 +1,19 @@
 #include <kvt/ui/dialogs/internal/body_parts.h>
 
-#include <cstdlib>
-#include <cstring>
-
-#include <kvt/draw/shade.h>
 #include <kvt/sprite/text.h>
-#include <kvt/util/dirlister.h>
+#include <kvt/util/name_scan.h>
 
 namespace kvt {
 
 namespace {
-
-bool IsDotEntry(const char *name) { return strcmp(name, ".") == 0 || strcmp(name, "..") == 0; }
 
 int ButtonTop(const CUISDBTemplate &body)
 {
     return body.y + body.height - kBodyMargin - kBodyButtonHeight;
 }
 
-} // namespace
-
-void ScanNames(List *names, const char *extension)
-{
-    KVT_DirLister lister(extension);
-    while (const char *name = lister.GetNextName()) {
-        if (IsDotEntry(name))
-            continue;
-        // The lister's buffer lives only until its next call.
-        const size_t size = strlen(name) + 1;
-        char *copy = static_cast<char *>(malloc(size));
-        if (copy == nullptr) // out of memory: the name is left out of the list
-            continue;
-        memcpy(copy, name, size);
-        names->AddElement(copy);
-    }
-}
-
-void DeleteNames(List *names)
-{
-    for (ListNode *node = names->GetHead(); node; node = node->next)
-        free(node->element);
-    delete names;
-}
-
+// The list of `names` below the title, `height` pixels high, already
+// holding as many rows as `names` has elements.
 CUIStringList *NewNameList(const CUISDBTemplate &body, int height, List *names)
 {
     CUIStringList *list = new CUIStringList(body.x + kBodyMargin, body.y + kBodyListTop,
@@ -52,6 +23,24 @@ CUIStringList *NewNameList(const CUISDBTemplate &body, int height, List *names)
     list->SetFont(body.font);
     list->SetStringList(names);
     return list;
+}
+
+} // namespace
+
+void DeleteNames(List *names)
+{
+    KVT_FreeNames(names);
+    delete names;
+}
+
+void ReplaceNameList(const CUISDBTemplate &body, int height, List *names,
+                     const char *extension)
+{
+    // The old list widget points at the old names, so it goes first.
+    delete body.screen->widgets[kBodyListSlot];
+    KVT_FreeNames(names);
+    KVT_ScanNames(names, extension);
+    body.screen->widgets[kBodyListSlot] = NewNameList(body, height, names);
 }
 
 CUINormalButton *NewOkButton(const CUISDBTemplate &body, const char *label)
@@ -76,9 +65,7 @@ int TitleLeft(const CUISDBTemplate &body, const char *title)
 
 void DrawBody(const CUISDBTemplate &body, const char *title, SDL_Surface *surface)
 {
-    const CUITheme &theme = *body.theme;
-    KVT_RectShade(surface, body.x, body.y, body.width, body.height, theme.activeFirst,
-                  theme.activeMid, theme.activeLast);
+    body.theme->DrawFrame(surface, body.x, body.y, body.width, body.height, CUIFrame::Active);
     KVT_DisplayText(surface, body.font, TitleLeft(body, title), body.y + kBodyMargin, title);
     body.screen->DrawScreen(surface);
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-enum OpenSlot { kListSlot, kOkSlot, kCancelSlot, kOpenSlots };
+enum OpenSlot { kListSlot = kvt::kBodyListSlot, kOkSlot, kCancelSlot, kOpenSlots };
 
 // Room for the title above the list and the buttons below it.
 constexpr int kListHeightCut = 70;
@@ -33,11 +33,7 @@ CUISDBOpenFile::~CUISDBOpenFile()
 void CUISDBOpenFile::ScanDir(const char *extension)
 {
     // Meant to run once; a second scan replaces the first without a leak.
-    delete screen->widgets[kListSlot];
-    kvt::DeleteNames(fileNames);
-    fileNames = new List;
-    kvt::ScanNames(fileNames, extension);
-    screen->widgets[kListSlot] = kvt::NewNameList(*this, height - kListHeightCut, fileNames);
+    kvt::ReplaceNameList(*this, height - kListHeightCut, fileNames, extension);
 }
 
 void CUISDBOpenFile::FullDraw(SDL_Surface *surface) { kvt::DrawBody(*this, title, surface); }

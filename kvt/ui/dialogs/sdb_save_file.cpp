@@ -5,7 +5,7 @@
 
 namespace {
 
-enum SaveSlot { kListSlot, kFieldSlot, kOkSlot, kCancelSlot, kSaveSlots };
+enum SaveSlot { kListSlot = kvt::kBodyListSlot, kFieldSlot, kOkSlot, kCancelSlot, kSaveSlots };
 
 // Room for the title above the list, and the field and buttons below it.
 constexpr int kListHeightCut = 110;
@@ -39,11 +39,7 @@ CUISDBSaveFile::~CUISDBSaveFile()
 void CUISDBSaveFile::ScanDir(const char *extension)
 {
     // Meant to run once; a second scan replaces the first without a leak.
-    delete screen->widgets[kListSlot];
-    kvt::DeleteNames(fileNames);
-    fileNames = new List;
-    kvt::ScanNames(fileNames, extension);
-    screen->widgets[kListSlot] = kvt::NewNameList(*this, height - kListHeightCut, fileNames);
+    kvt::ReplaceNameList(*this, height - kListHeightCut, fileNames, extension);
 }
 
 void CUISDBSaveFile::FullDraw(SDL_Surface *surface) { kvt::DrawBody(*this, title, surface); }

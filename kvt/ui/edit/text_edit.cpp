@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include <kvt/draw/pixel.h>
-#include <kvt/draw/shade.h>
 #include <kvt/sprite/text.h>
+#include <kvt/util/char_code.h>
 
 namespace {
 
@@ -53,10 +53,7 @@ bool CUITextEdit::SendMessage(int message, intptr_t param1, intptr_t param2,
         SendMessage(CUIMSG_REFRESH, 0, 0, surface);
         return true;
     case CUIMSG_MOUSEENTER:
-        // Not one of the theme's four frames: the middle comes from the
-        // rest ramp.
-        KVT_RectShade(surface, x, y, width, height, theme->activeFirst, theme->restMid,
-                      theme->activeLast);
+        theme->DrawFrame(surface, x, y, width, height, CUIFrame::Hover);
         return true;
     case CUIMSG_MOUSELEAVE:
         theme->DrawFrame(surface, x, y, width, height, CUIFrame::Rest);
@@ -163,14 +160,11 @@ bool CUITextEdit::EditKey(intptr_t key, SDL_Surface *surface)
 
 // The low byte of param1 is a character read as signed 8 bits: control
 // codes and codes 128 to 255 are dropped, 32 to 127 go in at the caret.
-// The byte is widened by hand, so that the signedness of plain char on the
-// processor plays no part.
 bool CUITextEdit::TypeCharacter(intptr_t character, SDL_Surface *surface)
 {
     if (readOnly)
         return false;
-    const int low = int(character & 0xff);
-    const int code = low < 128 ? low : low - 256;
+    const int code = KVT_SignedCharCode(character);
     // A full field takes the character as dealt with and keeps its text.
     if (code < 32 || length == kMaxLength)
         return true;

@@ -16,8 +16,9 @@
 #include <kvt/sprite/sprite.h>
 #include <kvt/ui/core/object.h>
 #include <kvt/ui/core/region_saver.h>
+#include <kvt/export.h>
 
-class CUITextEdit : public CUIObject {
+class KVT_API CUITextEdit : public CUIObject {
 public:
     // The most characters the field holds: what fits `text` with its
     // terminator, and what `length` can count.

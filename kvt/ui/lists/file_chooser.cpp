@@ -1,9 +1,6 @@
 #include <kvt/ui/lists/file_chooser.h>
 
-#include <cstdlib>
 #include <cstring>
-
-#include <kvt/util/dirlister.h>
 
 namespace {
 
@@ -19,11 +16,6 @@ void CutExtension(char *name)
             return;
         }
     }
-}
-
-bool IsDotEntry(const char *name)
-{
-    return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
 }
 
 } // namespace
@@ -43,31 +35,13 @@ CUIFileChooser::~CUIFileChooser()
     delete nameField;
 }
 
-void CUIFileChooser::DeleteListContent()
-{
-    for (ListNode *node = names.GetHead(); node; node = node->next)
-        std::free(node->element);
-}
+void CUIFileChooser::DeleteListContent() { KVT_FreeNameStrings(&names); }
 
 void CUIFileChooser::Scan(const char *wanted)
 {
-    DeleteListContent();
-    names.Clear();
-    std::strncpy(extension, wanted, kMaxExtension);
-    extension[kMaxExtension] = '\0';
-    {
-        KVT_DirLister lister(extension);
-        while (const char *name = lister.GetNextName()) {
-            if (IsDotEntry(name))
-                continue;
-            size_t size = std::strlen(name) + 1;
-            char *copy = static_cast<char *>(std::malloc(size));
-            if (!copy)
-                continue;
-            std::memcpy(copy, name, size);
-            names.AddElement(copy);
-        }
-    }
+    KVT_FreeNames(&names);
+    KVT_KeepExtension(extension, wanted);
+    KVT_ScanNames(&names, extension);
     ResetInterval(0, names.GetNbElement() - 1);
 }
 

@@ -17,16 +17,15 @@
 #include <kvt/ui/bars/generic_horz_int_bar.h>
 #include <kvt/ui/edit/text_edit.h>
 #include <kvt/util/list.h>
+#include <kvt/util/name_scan.h>
+#include <kvt/export.h>
 
-class CUIFileChooser : public CUIGenericHorzIntBar {
+class KVT_API CUIFileChooser : public CUIGenericHorzIntBar {
 public:
-    // The longest suffix Scan keeps; a longer one is cut to this.
-    static constexpr int kMaxExtension = 15;
-
     bool hideExtension;
-    char extension[kMaxExtension + 1]; // the suffix of the last Scan
-    List names;                        // strings from malloc, owned
-    CUITextEdit *nameField;            // owned; between the end buttons
+    char extension[KVT_EXTENSION_MAX + 1]; // the suffix of the last Scan, cut to fit
+    List names;                            // strings from malloc, owned
+    CUITextEdit *nameField;                // owned; between the end buttons
 
     // Square end buttons; the field fills the rest of the bar and says
     // "no file" until a Scan finds something. Draws nothing.

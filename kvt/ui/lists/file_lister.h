@@ -10,12 +10,14 @@
 #include <kvt/sprite/sprite.h>
 #include <kvt/ui/lists/generic_list.h>
 #include <kvt/util/list.h>
+#include <kvt/util/name_scan.h>
+#include <kvt/export.h>
 
-class CUIFileLister : public CUIGenericList {
+class KVT_API CUIFileLister : public CUIGenericList {
 public:
-    char extension[16]; // the suffix of the last Scan, cut to 15 characters
-    List names;         // each element a string from malloc, owned
-    KVT_Sprite *font;   // not owned
+    char extension[KVT_EXTENSION_MAX + 1]; // the suffix of the last Scan, cut to fit
+    List names;                            // each element a string from malloc, owned
+    KVT_Sprite *font;                      // not owned
 
     // Empty until the first Scan; draws nothing.
     CUIFileLister(int x, int y, int width, int height, CUITheme *theme, int rowHeight,

@@ -126,6 +126,7 @@ TEST(ThemeFrames, EachFrameUsesItsTriple)
         {CUIFrame::Active, t.activeFirst, t.activeMid, t.activeLast},
         {CUIFrame::Sunken, t.activeLast, t.activeMid, t.activeFirst},
         {CUIFrame::SunkenRest, t.restLast, t.restMid, t.restFirst},
+        {CUIFrame::Hover, t.activeFirst, t.restMid, t.activeLast},
     };
     const FormatCase format = kvt_test::EightBitChannelFormats()[0];
     for (const auto &f : frames) {

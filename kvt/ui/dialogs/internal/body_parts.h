@@ -16,6 +16,9 @@
 
 namespace kvt {
 
+// Both bodies keep their list of names in the first slot of their screen.
+constexpr int kBodyListSlot = 0;
+
 // Layout inside the dialog rectangle, in pixels.
 constexpr int kBodyMargin = 4;     // between the frame and every element
 constexpr int kBodyListTop = 30;   // below the title
@@ -28,16 +31,15 @@ constexpr int kBodyButtonGap = 8;  // between OK and Cancel
 // remainder widens the right margin by one.
 inline int BodyButtonWidth(int width) { return (width - 2 * kBodyMargin - kBodyButtonGap) >> 1; }
 
-// Adds to `names` a malloc copy of each name of the current directory that
-// ends in `extension`, "." and ".." left out, each at the head, so that
-// they end up in the reverse of the directory's order.
-void ScanNames(List *names, const char *extension);
 // Frees every name, then the list itself.
 void DeleteNames(List *names);
 
-// The list of `names` below the title, `height` pixels high, already
-// holding as many rows as `names` has elements.
-CUIStringList *NewNameList(const CUISDBTemplate &body, int height, List *names);
+// Replaces `names` by a malloc copy of each name of the current directory
+// that ends in `extension` ("." and ".." left out, newest first), and the
+// list widget of slot 0 by one `height` pixels high that shows them.
+void ReplaceNameList(const CUISDBTemplate &body, int height, List *names,
+                     const char *extension);
+
 CUINormalButton *NewOkButton(const CUISDBTemplate &body, const char *label);
 CUINormalButton *NewCancelButton(const CUISDBTemplate &body, const char *label);
 
