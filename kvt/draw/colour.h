@@ -1,6 +1,11 @@
 #ifndef KVT_DRAW_COLOUR_H
 #define KVT_DRAW_COLOUR_H
 
+// Not part of kvt's API: installed only because the inline pixel functions
+// of <kvt/draw/pixel.h> are built from it. Programs should not use it
+// themselves; it may change in any release, and what it declares out of
+// line is not exported by libkvt.so.
+//
 // Mapping colours to pixel values and back, exactly as SDL_MapRGB and
 // SDL_GetRGB of the loaded SDL do it, without a library call per pixel
 // for true-colour formats. Every drawing function maps and splits colours

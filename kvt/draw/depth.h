@@ -1,6 +1,11 @@
 #ifndef KVT_DRAW_DEPTH_H
 #define KVT_DRAW_DEPTH_H
 
+// Not part of kvt's API: installed only because the inline pixel functions
+// of <kvt/draw/pixel.h> are built from it. Programs should not use it
+// themselves; it may change in any release, and what it declares out of
+// line is not exported by libkvt.so.
+//
 // The one place that knows how a pixel of 1, 2, 3 or 4 bytes is read and
 // stored. Drawing code picks the accessor once with WithDepth and then
 // runs its loop on it, so the 3-byte order is handled here and nowhere

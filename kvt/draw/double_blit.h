@@ -11,6 +11,8 @@
 
 #include <SDL.h>
 
-void KVT_DoubleSizeBlit(SDL_Surface *source, SDL_Surface *target, int x, int y);
+#include <kvt/export.h>
+
+KVT_API void KVT_DoubleSizeBlit(SDL_Surface *source, SDL_Surface *target, int x, int y);
 
 #endif

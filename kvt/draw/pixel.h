@@ -9,6 +9,7 @@
 
 #include <kvt/draw/depth.h>
 #include <kvt/draw/rgba.h>
+#include <kvt/export.h>
 
 inline void KVT_SetPixel(SDL_Surface *surface, Sint16 x, Sint16 y, Uint8 r, Uint8 g, Uint8 b)
 {
@@ -44,6 +45,6 @@ inline void KVT_GetPixel(SDL_Surface *surface, Sint16 x, Sint16 y, Uint8 *r, Uin
 
 // Translucent fill of the part of (x, y, w, h) that lies on the surface;
 // the colour's `a` weighs the old pixels as in KVT_SetPixelAlpha.
-void KVT_FillRectAlpha(SDL_Surface *surface, int x, int y, int w, int h, KVT_RGBA colour);
+KVT_API void KVT_FillRectAlpha(SDL_Surface *surface, int x, int y, int w, int h, KVT_RGBA colour);
 
 #endif

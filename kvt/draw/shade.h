@@ -11,19 +11,20 @@
 #include <SDL.h>
 
 #include <kvt/draw/rgba.h>
+#include <kvt/export.h>
 
 // `first` at the left end; a negative length runs left of x, x excluded.
-void KVT_HorzLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, KVT_RGBA first,
-                       KVT_RGBA last);
+KVT_API void KVT_HorzLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length,
+                               KVT_RGBA first, KVT_RGBA last);
 // `first` at the top end; a negative length runs above y, y excluded.
-void KVT_VertLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, KVT_RGBA first,
-                       KVT_RGBA last);
+KVT_API void KVT_VertLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length,
+                               KVT_RGBA first, KVT_RGBA last);
 
 // The outline of width x height pixels (cut to 16 bits) through three
 // colours: top and left run first -> middle, bottom and right middle ->
 // last, drawn in that order, so that the top right corner is exactly
 // `middle`. The inside is not touched.
-void KVT_RectShade(SDL_Surface *surface, int x, int y, int width, int height, KVT_RGBA first,
-                   KVT_RGBA middle, KVT_RGBA last);
+KVT_API void KVT_RectShade(SDL_Surface *surface, int x, int y, int width, int height,
+                           KVT_RGBA first, KVT_RGBA middle, KVT_RGBA last);
 
 #endif

@@ -9,6 +9,8 @@
 
 #include <SDL.h>
 
+#include <kvt/export.h>
+
 struct KVT_SpriteFrame {
     Uint16 tag;  // kept from the file; nothing in the library reads it
     Sint16 hotX; // anchor column; arithmetic on it wraps at 16 bits
@@ -18,7 +20,7 @@ struct KVT_SpriteFrame {
 
 // Plain data with no constructor logic: a sprite starts empty, and the
 // application calls FreeFrames when it is done with a loaded one.
-class KVT_Sprite {
+class KVT_API KVT_Sprite {
 public:
     KVT_SpriteFrame *frames = nullptr; // nbFrames records from malloc
     Uint32 nbFrames = 0;

@@ -11,16 +11,18 @@
 #include <SDL.h>
 
 #include <kvt/sprite/sprite.h>
+#include <kvt/export.h>
 
 // Draws `text` with the first glyph's anchor at (x, y), and stops at the
 // end of the string or at the first pen position at or beyond the
 // surface's right edge.
-void KVT_DisplayText(SDL_Surface *surface, KVT_Sprite *font, int x, int y, const char *text);
+KVT_API void KVT_DisplayText(SDL_Surface *surface, KVT_Sprite *font, int x, int y,
+                             const char *text);
 // Draws `text` centred in the span of `width` pixels from x: it starts at
 // x + (width - text width) / 2, rounded towards minus infinity.
-void KVT_DisplayTextCenter(SDL_Surface *surface, KVT_Sprite *font, int x, int y, int width,
-                           const char *text);
+KVT_API void KVT_DisplayTextCenter(SDL_Surface *surface, KVT_Sprite *font, int x, int y, int width,
+                                   const char *text);
 // The sum of the frame widths of the characters of `text`.
-int KVT_GetTextWidth(const KVT_Sprite *font, const char *text);
+KVT_API int KVT_GetTextWidth(const KVT_Sprite *font, const char *text);
 
 #endif

@@ -2,13 +2,14 @@
 #define KVT_UTIL_DIRLISTER_H
 
 #include <dirent.h>
+#include <kvt/export.h>
 
 // Hands out, one per call, the names in the current directory (as it was at
 // construction) that end in a suffix. The comparison is exact and counts
 // case; there is no implied dot, so "." matches "." and "..", and an empty
 // suffix matches everything. Order is the directory's own; no rewind.
 // "." and ".." are not skipped here: callers drop them by name.
-class KVT_DirLister {
+class KVT_API KVT_DirLister {
 public:
     char *suffix;          // own copy, from malloc
     DIR *directory;        // null when the directory could not be opened
@@ -25,6 +26,6 @@ public:
 };
 
 // Always 0: a placeholder kept for applications that call it.
-int KVT_Random();
+KVT_API int KVT_Random();
 
 #endif

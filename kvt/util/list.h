@@ -1,6 +1,8 @@
 #ifndef KVT_UTIL_LIST_H
 #define KVT_UTIL_LIST_H
 
+#include <kvt/export.h>
+
 // A doubly linked list of untyped pointers. Elements go in at the head only,
 // are found by position from the head, and leave by pointer value. The list
 // owns its nodes but never the elements: whoever adds an element releases it,
@@ -12,7 +14,7 @@ struct ListNode {
     ListNode *next;     // towards the tail; null in the tail node
 };
 
-class List {
+class KVT_API List {
 public:
     ListNode *head;  // the node added last
     ListNode *tail;  // the node added first

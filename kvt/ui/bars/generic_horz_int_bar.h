@@ -12,8 +12,9 @@
 
 #include <kvt/ui/buttons/sign_button.h>
 #include <kvt/ui/core/object.h>
+#include <kvt/export.h>
 
-class CUIGenericHorzIntBar : public CUIObject {
+class KVT_API CUIGenericHorzIntBar : public CUIObject {
 public:
     int minVal, maxVal; // both ends belong to the interval
     int val;

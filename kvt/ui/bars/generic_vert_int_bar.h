@@ -13,8 +13,9 @@
 
 #include <kvt/ui/buttons/sign_button.h>
 #include <kvt/ui/core/object.h>
+#include <kvt/export.h>
 
-class CUIGenericVertIntBar : public CUIObject {
+class KVT_API CUIGenericVertIntBar : public CUIObject {
 public:
     int minVal, maxVal; // both ends belong to the interval
     int val;

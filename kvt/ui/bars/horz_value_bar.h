@@ -12,8 +12,9 @@
 
 #include <kvt/ui/bars/generic_horz_int_bar.h>
 #include <kvt/ui/core/region_saver.h>
+#include <kvt/export.h>
 
-class CUIHorzValueBar : public CUIGenericHorzIntBar {
+class KVT_API CUIHorzValueBar : public CUIGenericHorzIntBar {
 public:
     int trackLength; // width - 2 * buttonLength; set on DRAW
     int fillLength;  // width of the filled part; set when painted

@@ -14,8 +14,9 @@
 
 #include <kvt/ui/bars/generic_vert_int_bar.h>
 #include <kvt/ui/core/region_saver.h>
+#include <kvt/export.h>
 
-class CUIVertScrollBar : public CUIGenericVertIntBar {
+class KVT_API CUIVertScrollBar : public CUIGenericVertIntBar {
 public:
     int thumbLength;  // pixels, or -1 when no thumb is shown; set on DRAW
     int thumbOffset;  // from the top of the track to the thumb; set when painted

@@ -12,8 +12,9 @@
 
 #include <kvt/sprite/sprite.h>
 #include <kvt/ui/core/object.h>
+#include <kvt/export.h>
 
-class CUIBoolChooser : public CUIObject {
+class KVT_API CUIBoolChooser : public CUIObject {
 public:
     bool value;          // true is on
     KVT_Sprite *font;    // the caption's font; not owned

@@ -11,8 +11,9 @@
 
 #include <kvt/sprite/sprite.h>
 #include <kvt/ui/core/object.h>
+#include <kvt/export.h>
 
-class CUIGfxButton : public CUIObject {
+class KVT_API CUIGfxButton : public CUIObject {
 public:
     KVT_Sprite *sprite; // not owned
     int frame;          // the frame shown; a frame the sprite lacks shows nothing

@@ -15,8 +15,9 @@
 #include <kvt/sprite/sprite.h>
 #include <kvt/ui/core/object.h>
 #include <kvt/ui/core/region_saver.h>
+#include <kvt/export.h>
 
-class CUIMultiGfxButton : public CUIObject {
+class KVT_API CUIMultiGfxButton : public CUIObject {
 public:
     KVT_RegionSaver innerRegion; // the inside, frame excluded, face but no image
     KVT_Sprite *sprite;          // not owned

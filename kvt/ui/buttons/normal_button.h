@@ -13,8 +13,9 @@
 
 #include <kvt/sprite/sprite.h>
 #include <kvt/ui/core/object.h>
+#include <kvt/export.h>
 
-class CUINormalButton : public CUIObject {
+class KVT_API CUINormalButton : public CUIObject {
 public:
     KVT_Sprite *font;    // not owned
     const char *caption; // not copied: the caller keeps it alive and unchanged

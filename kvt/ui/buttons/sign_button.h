@@ -11,6 +11,7 @@
 #include <SDL.h>
 
 #include <kvt/ui/core/object.h>
+#include <kvt/export.h>
 
 // Arrow directions, counted counter-clockwise from the right. Any other
 // value draws no arrow: face and frame alone.
@@ -21,7 +22,7 @@ enum {
     CUISIGN_DOWN = 4,
 };
 
-class CUISignButton : public CUIObject {
+class KVT_API CUISignButton : public CUIObject {
 public:
     int sign; // which arrow, fixed at construction
 

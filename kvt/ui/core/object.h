@@ -13,6 +13,7 @@
 
 #include <kvt/ui/core/region_saver.h>
 #include <kvt/ui/core/theme.h>
+#include <kvt/export.h>
 
 // Message numbers. A mouse position travels packed in param1, x in the low
 // 16 bits and y in the high 16 bits: see CUIPackPosition.
@@ -40,7 +41,7 @@ inline int CUIPositionX(intptr_t param1) { return int(param1 & 0xffff); }
 // The arithmetic shift of the packed 32-bit value: y keeps its sign.
 inline int CUIPositionY(intptr_t param1) { return int32_t(param1) >> 16; }
 
-class CUIObject {
+class KVT_API CUIObject {
 public:
     KVT_RegionSaver topEdge;    // the row above the widget, corners included
     KVT_RegionSaver bottomEdge; // the row below, corners included

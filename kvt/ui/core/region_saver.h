@@ -7,7 +7,9 @@
 
 #include <SDL.h>
 
-class KVT_RegionSaver {
+#include <kvt/export.h>
+
+class KVT_API KVT_RegionSaver {
 public:
     // The rectangle last saved (16-bit fields); after a restore, the part
     // of it that the restoring blit put on the surface.

@@ -9,8 +9,9 @@
 #include <SDL.h>
 
 #include <kvt/ui/core/object.h>
+#include <kvt/export.h>
 
-class CUIScreen {
+class KVT_API CUIScreen {
 public:
     int lastOverWidget; // under the pointer at the previous motion, -1 for none
     int overWidget;     // under the pointer at the motion being treated

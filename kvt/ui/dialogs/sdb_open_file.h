@@ -11,8 +11,9 @@
 #include <kvt/ui/core/theme.h>
 #include <kvt/ui/dialogs/sdb_template.h>
 #include <kvt/util/list.h>
+#include <kvt/export.h>
 
-class CUISDBOpenFile : public CUISDBTemplate {
+class KVT_API CUISDBOpenFile : public CUISDBTemplate {
 public:
     const char *title;       // not copied: must outlive the body
     const char *okLabel;     // not copied

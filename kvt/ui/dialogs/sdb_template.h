@@ -11,8 +11,9 @@
 #include <kvt/sprite/sprite.h>
 #include <kvt/ui/core/screen.h>
 #include <kvt/ui/core/theme.h>
+#include <kvt/export.h>
 
-class CUISDBTemplate {
+class KVT_API CUISDBTemplate {
 public:
     CUIScreen *screen; // created and deleted by the derived body
     int x, y, width, height; // the dialog rectangle, in surface pixels

@@ -14,8 +14,9 @@
 #include <kvt/ui/bars/vert_scroll_bar.h>
 #include <kvt/ui/core/object.h>
 #include <kvt/ui/core/region_saver.h>
+#include <kvt/export.h>
 
-class CUIGenericList : public CUIObject {
+class KVT_API CUIGenericList : public CUIObject {
 public:
     CUIVertScrollBar *scrollBar; // owned; in no screen, it hears only from the list
     int rowHeight;               // pixels; must not be 0

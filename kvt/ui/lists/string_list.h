@@ -10,8 +10,9 @@
 #include <kvt/sprite/sprite.h>
 #include <kvt/ui/lists/generic_list.h>
 #include <kvt/util/list.h>
+#include <kvt/export.h>
 
-class CUIStringList : public CUIGenericList {
+class KVT_API CUIStringList : public CUIGenericList {
 public:
     List *strings;    // each element a char *; not owned
     KVT_Sprite *font; // not owned
