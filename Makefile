@@ -51,6 +51,22 @@ SDL12_COMPAT_DIR ?= /usr/lib/$(shell gcc -print-multiarch)/sdl12-compat
 test-compat: build
 	scripts/test-compat.sh $(BUILD) $(SDL12_COMPAT_DIR) $(JOBS)
 
+# The ABI of the library against the committed baseline of its SONAME,
+# abi/libkvt.so.<N>.xml, with libabigail: a change that breaks programs
+# built against it fails, an addition passes and is reported.
+# abi-baseline writes the baseline anew, after a deliberate change (see
+# the README's "The ABI").
+ABI_DEPS = abigail-tools
+.PHONY: abi-check abi-baseline abi-library
+abi-library: deps
+	@scripts/install-deps.sh $(ABI_DEPS)
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+	cmake --build $(BUILD) -j $(JOBS) --target kvt
+abi-check: abi-library
+	scripts/abi-check.sh $(BUILD)
+abi-baseline: abi-library
+	scripts/abi-check.sh $(BUILD) --update
+
 # The same suite under AddressSanitizer and UndefinedBehaviorSanitizer, in
 # its own tree; any report fails the run.
 sanitize: deps
