@@ -5,6 +5,7 @@
 #include <kvt/draw/pixel.h>
 
 #include "pictures.h"
+#include "scenes.h"
 #include "sprite_pictures.h"
 
 namespace kvt_demo {
@@ -71,7 +72,7 @@ bool LoadAssets(const std::string &dataDir, const std::string &fontsDir, SDL_Sur
     if (!LoadFonts(fontsDir, screen, assets))
         return false;
     assets->tile = CreateBackgroundTile();
-    assets->ball = CreateBall();
+    assets->ball = CreateBall(LayoutOf(screen) == Layout::kDesktop ? 40 : 20);
     if (!assets->tile || !assets->ball || !CreateShapeSprite(&assets->shapes) ||
         !CreateIconSprite(&assets->icons)) {
         std::fprintf(stderr, "cannot make the demo's pictures: %s\n", SDL_GetError());

@@ -16,6 +16,8 @@ namespace kvt_demo {
 struct Assets {
     CUITheme theme;
     SDL_Surface *tile = nullptr;
+    // 40 pixels across in the desktop layout, 20 in the handheld one,
+    // whose drawing scene is the desktop one at half the size.
     SDL_Surface *ball = nullptr;
     // Made at build time by `kvt-sprite font`: body text in white, the
     // same glyphs in amber for labels, and a larger font for titles. All

@@ -13,48 +13,50 @@
 
 namespace kvt_demo {
 
+// Where the panels, widgets and section titles stand.
+struct ButtonsLayout {
+    Layout layout;
+    SDL_Rect widgetsPanel, statusPanel, reportsPanel;
+    size_t reportLines;
+    const char *panelTitle;
+    SDL_Rect places[kButtonsWidgets];
+    std::vector<Label> labels;
+    SDL_Rect empty; // a point in the widgets' panel that no widget covers
+};
+
 namespace {
+
+const char *const kNames[kButtonsWidgets] = {"ok",   "cancel", "apply", "gem",   "picture",
+                                              "left", "up",     "down",  "right", "sound"};
+
+const int kIcon = kIconBox + 2;
 
 // The widgets sit in the left panel, the reports fill the right one and
 // the status text the panel under the widgets.
-const SDL_Rect kWidgetsPanel = {16, 50, 372, 244};
-const SDL_Rect kStatusPanel = {16, 306, 372, 158};
-const SDL_Rect kReportsPanel = {404, 50, 220, 414};
-const size_t kReportLines = 19;
-
-struct WidgetPlace {
-    const char *name;
-    SDL_Rect rect;
+const ButtonsLayout kDesktop = {
+    Layout::kDesktop, {16, 50, 372, 244}, {16, 306, 372, 158}, {404, 50, 220, 414}, 19,
+    "Tab order: left to right, row by row",
+    {{40, 108, 96, 22}, {148, 108, 96, 22}, {256, 108, 96, 22}, {40, 166, kIcon, kIcon},
+     {208, 166, kIcon, kIcon}, {40, 248, 24, 24}, {70, 248, 24, 24}, {100, 248, 24, 24},
+     {130, 248, 24, 24}, {208, 249, 120, 22}},
+    {{32, 86, "CUINormalButton"}, {32, 144, "CUIGfxButton"}, {200, 144, "CUIMultiGfxButton"},
+     {32, 226, "CUISignButton"}, {200, 226, "CUIBoolChooser"}},
+    {300, 180, 0, 0},
 };
 
-const WidgetPlace kPlaces[kButtonsWidgets] = {
-    {"ok", {40, 108, 96, 22}},
-    {"cancel", {148, 108, 96, 22}},
-    {"apply", {256, 108, 96, 22}},
-    {"gem", {40, 166, kIconBox + 2, kIconBox + 2}},
-    {"picture", {208, 166, kIconBox + 2, kIconBox + 2}},
-    {"left", {40, 248, 24, 24}},
-    {"up", {70, 248, 24, 24}},
-    {"down", {100, 248, 24, 24}},
-    {"right", {130, 248, 24, 24}},
-    {"sound", {208, 249, 120, 22}},
+// The same rows without their section titles, and the reports under them.
+const ButtonsLayout kHandheld = {
+    Layout::kHandheld, {4, 30, 312, 112}, {0, 0, 0, 0}, {4, 146, 312, 90}, 3,
+    "Tab order: row by row",
+    {{12, 58, 94, 22}, {112, 58, 94, 22}, {212, 58, 94, 22}, {12, 88, kIcon, kIcon},
+     {64, 88, kIcon, kIcon}, {120, 99, 24, 24}, {148, 99, 24, 24}, {176, 99, 24, 24},
+     {204, 99, 24, 24}, {234, 100, 74, 22}},
+    {},
+    {280, 128, 0, 0},
 };
 
-// Section titles above the rows of widgets.
-const struct {
-    int x, y;
-    const char *text;
-} kLabels[] = {
-    {32, 86, "CUINormalButton"},
-    {32, 144, "CUIGfxButton"},
-    {200, 144, "CUIMultiGfxButton"},
-    {32, 226, "CUISignButton"},
-    {200, 226, "CUIBoolChooser"},
-};
-
-CUIObject *MakeWidget(int index, Assets &assets)
+CUIObject *MakeWidget(const SDL_Rect &r, int index, Assets &assets)
 {
-    const SDL_Rect &r = kPlaces[index].rect;
     CUITheme *theme = &assets.theme;
     static const char *const captions[] = {"OK", "Cancel", "Apply"};
     static const int signs[] = {CUISIGN_LEFT, CUISIGN_UP, CUISIGN_DOWN, CUISIGN_RIGHT};
@@ -76,16 +78,19 @@ CUIObject *MakeWidget(int index, Assets &assets)
 
 } // namespace
 
-const char *ButtonsWidgetName(int widget) { return kPlaces[widget].name; }
+const char *ButtonsWidgetName(int widget) { return kNames[widget]; }
 
-SDL_Rect ButtonsScene::WidgetRect(int widget) { return kPlaces[widget].rect; }
+SDL_Rect ButtonsScene::WidgetRect(int widget) const { return layout_.places[widget]; }
 
-ButtonsScene::ButtonsScene(Assets &assets)
-    : assets_(assets), screen_(kButtonsWidgets), reportedFocus_(0), reportedPicture_(0),
-      reportedSound_(false), log_(kReportsPanel, kReportLines)
+SDL_Rect ButtonsScene::EmptyPoint() const { return layout_.empty; }
+
+ButtonsScene::ButtonsScene(Assets &assets, Layout layout)
+    : layout_(layout == Layout::kDesktop ? kDesktop : kHandheld), assets_(assets),
+      screen_(kButtonsWidgets), reportedFocus_(0), reportedPicture_(0), reportedSound_(false),
+      log_(layout_.reportsPanel, layout_.reportLines)
 {
     for (int i = 0; i < kButtonsWidgets; ++i) {
-        widgets_[i].reset(MakeWidget(i, assets));
+        widgets_[i].reset(MakeWidget(layout_.places[i], i, assets));
         screen_.widgets[i] = widgets_[i].get();
     }
     picture_ = static_cast<CUIMultiGfxButton *>(widgets_[kPictureButton].get());
@@ -99,21 +104,18 @@ void ButtonsScene::Draw(SDL_Surface *screen, const char *status)
 {
     SDL_Rect whole = {0, 0, Uint16(screen->w), Uint16(screen->h)};
     assets_.theme.DrawBackground(screen, &whole);
-    KVT_DisplayText(screen, &assets_.titleFont, 16, 12, "Buttons, focus and clicks");
-    PaintPanel(screen, assets_, kWidgetsPanel, "Tab order: left to right, row by row");
-    for (const auto &label : kLabels)
-        KVT_DisplayText(screen, &assets_.accentFont, label.x, label.y, label.text);
-    const char *note = "one CUIScreen, ten widgets";
-    KVT_DisplayText(screen, &assets_.font, 624 - KVT_GetTextWidth(&assets_.font, note), 20, note);
+    PaintHeading(screen, assets_, layout_.layout, "Buttons, focus and clicks",
+                 "one CUIScreen, ten widgets");
+    PaintPanel(screen, assets_, layout_.widgetsPanel, layout_.panelTitle);
+    PaintLabels(screen, assets_, layout_.labels);
     screen_.DrawScreen(screen);
     log_.Paint(screen, assets_);
-    PaintStatusPanel(screen, assets_, kStatusPanel, status);
+    PaintStatusPanel(screen, assets_, layout_.statusPanel, status);
 }
 
 void ButtonsScene::ShowStatus(SDL_Surface *screen, const char *status)
 {
-    PaintStatusPanel(screen, assets_, kStatusPanel, status);
-    SDL_UpdateRect(screen, kStatusPanel.x, kStatusPanel.y, kStatusPanel.w, kStatusPanel.h);
+    ShowStatusPanel(screen, assets_, layout_.statusPanel, status);
 }
 
 void ButtonsScene::HandleEvent(SDL_Event *event, SDL_Surface *screen)

@@ -41,9 +41,11 @@ enum ButtonsWidget {
 // The name a widget has in the reports ("clicked: cancel").
 const char *ButtonsWidgetName(int widget);
 
+struct ButtonsLayout;
+
 class ButtonsScene : public LiveScene {
 public:
-    explicit ButtonsScene(Assets &assets);
+    ButtonsScene(Assets &assets, Layout layout);
     ~ButtonsScene() override;
 
     // Paints the whole scene: background, panels, the widgets through
@@ -57,11 +59,14 @@ public:
     void HandleEvent(SDL_Event *event, SDL_Surface *screen) override;
 
     // Where a widget lies on the screen.
-    static SDL_Rect WidgetRect(int widget);
+    SDL_Rect WidgetRect(int widget) const;
+    // A point inside the widgets' panel that no widget covers.
+    SDL_Rect EmptyPoint() const;
 
 private:
     void Report(SDL_Surface *screen);
 
+    const ButtonsLayout &layout_;
     Assets &assets_;
     CUIScreen screen_;
     std::unique_ptr<CUIObject> widgets_[kButtonsWidgets];

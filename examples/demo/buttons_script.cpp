@@ -22,9 +22,6 @@ const char kLiveStatus[] =
     "switches Sound. Space and the arrow keys change "
     "scene; Escape ends the demo.";
 
-// A point inside the widget panel that no widget covers.
-const int kEmptyX = 300, kEmptyY = 180;
-
 class ScriptPlayer {
 public:
     ScriptPlayer(ButtonsScene &scene, SDL_Surface *screen, const std::string &outDir)
@@ -35,13 +32,13 @@ public:
     void MoveTo(int x, int y, Uint8 buttons) { events_.MoveTo(x, y, buttons); }
     void MoveOnto(int widget, Uint8 buttons)
     {
-        const SDL_Rect r = ButtonsScene::WidgetRect(widget);
+        const SDL_Rect r = scene_.WidgetRect(widget);
         MoveTo(r.x + r.w / 2, r.y + r.h / 2, buttons);
     }
     // A press or release of the left button over the centre of a widget.
     void Button(Uint8 type, int widget)
     {
-        const SDL_Rect r = ButtonsScene::WidgetRect(widget);
+        const SDL_Rect r = scene_.WidgetRect(widget);
         events_.Button(type, r.x + r.w / 2, r.y + r.h / 2);
     }
     void Click(int widget)
@@ -49,6 +46,11 @@ public:
         MoveOnto(widget, 0);
         Button(SDL_MOUSEBUTTONDOWN, widget);
         Button(SDL_MOUSEBUTTONUP, widget);
+    }
+    void MoveOffWidgets(Uint8 buttons)
+    {
+        const SDL_Rect empty = scene_.EmptyPoint();
+        MoveTo(empty.x, empty.y, buttons);
     }
     void Key(SDLKey sym, bool leftShift = false)
     {
@@ -85,7 +87,7 @@ bool PlayMouse(ScriptPlayer &p)
     p.Button(SDL_MOUSEBUTTONDOWN, kCancelButton);
     if (!p.Shoot("pressed", "Pressed on Cancel: the focus frame moves there and its frame sinks."))
         return false;
-    p.MoveTo(kEmptyX, kEmptyY, SDL_BUTTON_LMASK);
+    p.MoveOffWidgets(SDL_BUTTON_LMASK);
     if (!p.Shoot("drag-off", "Dragged off with the button held: Cancel shows its rest frame and "
                              "keeps the focus."))
         return false;
@@ -125,13 +127,13 @@ bool PlayValuesAndKeys(ScriptPlayer &p)
 
 void PaintButtonsScene(SDL_Surface *screen, Assets &assets)
 {
-    ButtonsScene scene(assets);
+    ButtonsScene scene(assets, LayoutOf(screen));
     scene.Draw(screen, kLiveStatus);
 }
 
 bool PlayButtonsScene(SDL_Surface *screen, Assets &assets, const std::string &outDir)
 {
-    ButtonsScene scene(assets);
+    ButtonsScene scene(assets, LayoutOf(screen));
     scene.Draw(screen, "");
     ScriptPlayer player(scene, screen, outDir);
     return PlayMouse(player) && PlayValuesAndKeys(player);
@@ -139,7 +141,7 @@ bool PlayButtonsScene(SDL_Surface *screen, Assets &assets, const std::string &ou
 
 std::unique_ptr<LiveScene> StartButtonsScene(SDL_Surface *screen, Assets &assets)
 {
-    auto scene = std::make_unique<ButtonsScene>(assets);
+    auto scene = std::make_unique<ButtonsScene>(assets, LayoutOf(screen));
     scene->Draw(screen, kLiveStatus);
     SDL_UpdateRect(screen, 0, 0, 0, 0);
     return scene;

@@ -32,13 +32,15 @@ enum ControlsWidget { kScrollBar, kLevelBar, kNameField, kNoteField, kControlsWi
 // The name a widget has in the reports ("focus: name").
 const char *ControlsWidgetName(int widget);
 
+struct ControlsLayout;
+
 class ControlsScene : public LiveScene {
 public:
     // The lines of the list that the scroll bar moves through.
     static const int kListLines = 50;
     static const int kListVisible = 8;
 
-    explicit ControlsScene(Assets &assets);
+    ControlsScene(Assets &assets, Layout layout);
     ~ControlsScene() override;
 
     // Paints the whole scene: background, panels, the list, the widgets
@@ -55,7 +57,7 @@ public:
     bool KeepsKey(SDLKey key) const override;
 
     // Where a widget lies on the screen.
-    static SDL_Rect WidgetRect(int widget);
+    SDL_Rect WidgetRect(int widget) const;
     const CUIVertScrollBar &ScrollBar() const { return *scroll_; }
     const CUIHorzValueBar &LevelBar() const { return *level_; }
 
@@ -64,7 +66,9 @@ private:
     void ReportText(CUITextEdit &field, int widget, std::string *reported);
     void PaintList(SDL_Surface *screen);
     void PaintLevelValue(SDL_Surface *screen);
+    void PaintGrooves(SDL_Surface *screen);
 
+    const ControlsLayout &layout_;
     Assets &assets_;
     CUIScreen screen_;
     std::unique_ptr<CUIObject> widgets_[kControlsWidgets];

@@ -80,7 +80,7 @@ public:
     EventScript events;
 
 private:
-    static SDL_Rect Rect(int widget) { return ControlsScene::WidgetRect(widget); }
+    SDL_Rect Rect(int widget) const { return scene_.WidgetRect(widget); }
 
     ControlsScene &scene_;
     SDL_Surface *screen_;
@@ -177,13 +177,13 @@ bool PlayTyping(ScriptPlayer &p)
 
 void PaintControlsScene(SDL_Surface *screen, Assets &assets)
 {
-    ControlsScene scene(assets);
+    ControlsScene scene(assets, LayoutOf(screen));
     scene.Draw(screen, kLiveStatus);
 }
 
 bool PlayControlsScene(SDL_Surface *screen, Assets &assets, const std::string &outDir)
 {
-    ControlsScene scene(assets);
+    ControlsScene scene(assets, LayoutOf(screen));
     scene.Draw(screen, "");
     ScriptPlayer player(scene, screen, outDir);
     return PlaySteppingAndPaging(player, scene) && PlayDragging(player, scene) &&
@@ -192,7 +192,7 @@ bool PlayControlsScene(SDL_Surface *screen, Assets &assets, const std::string &o
 
 std::unique_ptr<LiveScene> StartControlsScene(SDL_Surface *screen, Assets &assets)
 {
-    auto scene = std::make_unique<ControlsScene>(assets);
+    auto scene = std::make_unique<ControlsScene>(assets, LayoutOf(screen));
     scene->Draw(screen, kLiveStatus);
     SDL_UpdateRect(screen, 0, 0, 0, 0);
     return scene;

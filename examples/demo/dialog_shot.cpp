@@ -27,6 +27,9 @@ SDL_Surface *CopyPixels(const SDL_Surface *from)
                                              f->Rmask, f->Gmask, f->Bmask, f->Amask);
     if (!copy)
         return nullptr;
+    // A palettised copy starts with a palette of its own, not the screen's.
+    if (f->palette)
+        SDL_SetColors(copy, f->palette->colors, 0, f->palette->ncolors);
     const size_t rowBytes = size_t(from->w) * f->BytesPerPixel;
     for (int y = 0; y < from->h; ++y)
         std::memcpy(static_cast<Uint8 *>(copy->pixels) + y * copy->pitch,

@@ -9,40 +9,44 @@
 
 namespace kvt_demo {
 
+// Where the panels, the widgets and their titles stand.
+struct ListsLayout {
+    Layout layout;
+    SDL_Rect widgetsPanel, statusPanel, reportsPanel;
+    size_t reportLines;
+    const char *panelTitle;
+    SDL_Rect places[kListsWidgets];
+    std::vector<Label> labels;
+};
+
 namespace {
 
-// The widgets sit in the left panel, the reports fill the right one and
-// the status text the panel under the widgets.
-// The reports panel is wider than in the other scenes, for the quoted
-// entries.
-const SDL_Rect kWidgetsPanel = {16, 50, 328, 272};
-const SDL_Rect kStatusPanel = {16, 334, 328, 130};
-const SDL_Rect kReportsPanel = {360, 50, 264, 414};
-const size_t kReportLines = 19;
-
-// Seven whole rows of 20 pixels and a strip of 4 below them; a bar of 20
-// gives end buttons 16 pixels long.
+// Rows of 20 pixels; a bar of 20 gives end buttons 16 pixels long.
 const int kRowHeight = 20;
 const int kBarWidth = 20;
 
-const SDL_Rect kPlaces[kListsWidgets] = {
-    {32, 108, 140, 144},
-    {188, 108, 144, 144},
-    {32, 288, 300, 24},
+// The widgets sit in the left panel, the reports fill the right one and
+// the status text the panel under the widgets. The reports panel is wider
+// than in the other scenes, for the quoted entries. The lists show seven
+// whole rows and a strip of 4 pixels below them.
+const ListsLayout kDesktop = {
+    Layout::kDesktop, {16, 50, 328, 272}, {16, 334, 328, 130}, {360, 50, 264, 414}, 19,
+    "Tab order: strings, files, chooser",
+    {{32, 108, 140, 144}, {188, 108, 144, 144}, {32, 288, 300, 24}},
+    {{32, 86, "CUIStringList: 50"}, {188, 86, "CUIFileLister: all"},
+     {32, 266, "CUIFileChooser: *.txt, extension hidden"}},
 };
 
-const struct {
-    int x, y;
-    const char *text;
-} kLabels[] = {
-    {32, 86, "CUIStringList: 50"},
-    {188, 86, "CUIFileLister: all"},
-    {32, 266, "CUIFileChooser: *.txt, extension hidden"},
+// The lists four rows high, the chooser under them and the reports below.
+const ListsLayout kHandheld = {
+    Layout::kHandheld, {4, 30, 312, 130}, {0, 0, 0, 0}, {4, 164, 312, 72}, 2,
+    "",
+    {{12, 38, 140, 84}, {160, 38, 148, 84}, {12, 128, 296, 24}},
+    {},
 };
 
-CUIObject *MakeWidget(int index, Assets &assets, List *entries)
+CUIObject *MakeWidget(const SDL_Rect &r, int index, Assets &assets, List *entries)
 {
-    const SDL_Rect &r = kPlaces[index];
     CUITheme *theme = &assets.theme;
     switch (index) {
     case kStringList: {
@@ -84,11 +88,12 @@ std::string Quoted(const std::string &text) { return "\"" + text + "\""; }
 
 } // namespace
 
-SDL_Rect ListsScene::WidgetRect(int widget) { return kPlaces[widget]; }
+SDL_Rect ListsScene::WidgetRect(int widget) const { return layout_.places[widget]; }
 
-ListsScene::ListsScene(Assets &assets)
-    : assets_(assets), screen_(kListsWidgets), reportedEntry_(0), reportedFile_(0),
-      log_(kReportsPanel, kReportLines)
+ListsScene::ListsScene(Assets &assets, Layout layout)
+    : layout_(layout == Layout::kDesktop ? kDesktop : kHandheld), assets_(assets),
+      screen_(kListsWidgets), reportedEntry_(0), reportedFile_(0),
+      log_(layout_.reportsPanel, layout_.reportLines)
 {
     // A List gives the element added last first, so the texts go in from
     // the end for element i to be "entry i".
@@ -97,7 +102,7 @@ ListsScene::ListsScene(Assets &assets)
     for (int i = kEntries - 1; i >= 0; --i)
         entries_.AddElement(&entryTexts_[i][0]);
     for (int i = 0; i < kListsWidgets; ++i) {
-        widgets_[i].reset(MakeWidget(i, assets, &entries_));
+        widgets_[i].reset(MakeWidget(layout_.places[i], i, assets, &entries_));
         screen_.widgets[i] = widgets_[i].get();
     }
     strings_ = static_cast<CUIStringList *>(widgets_[kStringList].get());
@@ -122,24 +127,21 @@ void ListsScene::Draw(SDL_Surface *screen, const char *status)
 {
     SDL_Rect whole = {0, 0, Uint16(screen->w), Uint16(screen->h)};
     assets_.theme.DrawBackground(screen, &whole);
-    KVT_DisplayText(screen, &assets_.titleFont, 16, 12, "Lists, files and choosing");
-    PaintPanel(screen, assets_, kWidgetsPanel, "Tab order: strings, files, chooser");
-    for (const auto &label : kLabels)
-        KVT_DisplayText(screen, &assets_.accentFont, label.x, label.y, label.text);
-    const char *note = "a folder of samples, made for the scene";
-    KVT_DisplayText(screen, &assets_.font, 624 - KVT_GetTextWidth(&assets_.font, note), 20, note);
-    PaintListGround(screen, assets_, kPlaces[kStringList]);
-    PaintListGround(screen, assets_, kPlaces[kFileLister]);
+    PaintHeading(screen, assets_, layout_.layout, "Lists, files and choosing",
+                 "a folder of samples, made for the scene");
+    PaintPanel(screen, assets_, layout_.widgetsPanel, layout_.panelTitle);
+    PaintLabels(screen, assets_, layout_.labels);
+    PaintListGround(screen, assets_, layout_.places[kStringList]);
+    PaintListGround(screen, assets_, layout_.places[kFileLister]);
     screen_.DrawScreen(screen);
     reportedChooser_ = ChooserText(); // the chooser shows its first name on DRAW
     log_.Paint(screen, assets_);
-    PaintStatusPanel(screen, assets_, kStatusPanel, status);
+    PaintStatusPanel(screen, assets_, layout_.statusPanel, status);
 }
 
 void ListsScene::ShowStatus(SDL_Surface *screen, const char *status)
 {
-    PaintStatusPanel(screen, assets_, kStatusPanel, status);
-    SDL_UpdateRect(screen, kStatusPanel.x, kStatusPanel.y, kStatusPanel.w, kStatusPanel.h);
+    ShowStatusPanel(screen, assets_, layout_.statusPanel, status);
 }
 
 void ListsScene::HandleEvent(SDL_Event *event, SDL_Surface *screen)

@@ -32,13 +32,15 @@ namespace kvt_demo {
 // The widgets by index in the screen's array, which is also the Tab order.
 enum ListsWidget { kStringList, kFileLister, kFileChooser, kListsWidgets };
 
+struct ListsLayout;
+
 class ListsScene : public LiveScene {
 public:
     static const int kEntries = 50;
     // The suffix of the files the chooser steps through.
     static constexpr const char *kChooserSuffix = ".txt";
 
-    explicit ListsScene(Assets &assets);
+    ListsScene(Assets &assets, Layout layout);
     ~ListsScene() override;
 
     // Paints the whole scene: background, panels, captions, the widgets
@@ -52,7 +54,7 @@ public:
     // The chooser steps with Left and Right rather than change scene.
     bool KeepsKey(SDLKey key) const override;
 
-    static SDL_Rect WidgetRect(int widget);
+    SDL_Rect WidgetRect(int widget) const;
     const CUIStringList &Strings() const { return *strings_; }
     const CUIFileLister &Files() const { return *files_; }
     const CUIFileChooser &Chooser() const { return *chooser_; }
@@ -66,6 +68,7 @@ private:
 
     // First, so that the widgets scan inside it and go before it does.
     SampleFolder folder_;
+    const ListsLayout &layout_;
     Assets &assets_;
     std::vector<std::string> entryTexts_;
     List entries_; // points into entryTexts_, element i is "entry i"

@@ -200,7 +200,7 @@ bool PlayChooser(ScriptPlayer &p, const ListsScene &scene)
 
 void PaintListsScene(SDL_Surface *screen, Assets &assets)
 {
-    ListsScene scene(assets);
+    ListsScene scene(assets, LayoutOf(screen));
     scene.Draw(screen, kLiveStatus);
 }
 
@@ -210,7 +210,7 @@ bool PlayListsScene(SDL_Surface *screen, Assets &assets, const std::string &outD
     const std::string writeDir = std::filesystem::absolute(outDir, error).string();
     if (error)
         return false;
-    ListsScene scene(assets);
+    ListsScene scene(assets, LayoutOf(screen));
     scene.Draw(screen, "");
     ScriptPlayer player(scene, screen, outDir, writeDir);
     return PlaySelecting(player, scene) && PlayDragging(player, scene) &&
@@ -219,7 +219,7 @@ bool PlayListsScene(SDL_Surface *screen, Assets &assets, const std::string &outD
 
 std::unique_ptr<LiveScene> StartListsScene(SDL_Surface *screen, Assets &assets)
 {
-    auto scene = std::make_unique<ListsScene>(assets);
+    auto scene = std::make_unique<ListsScene>(assets, LayoutOf(screen));
     scene->Draw(screen, kLiveStatus);
     SDL_UpdateRect(screen, 0, 0, 0, 0);
     return scene;

@@ -1,6 +1,7 @@
-// kvt-demo: paints every scene of the demo. Without --window it runs on
-// SDL's dummy video driver and writes each scene as a PNG; with --window
-// it shows them on the display.
+// kvt-demo: paints every scene of the demo on a screen of the size and
+// depth asked for. Without --window it runs on SDL's dummy video driver
+// and writes each scene as a PNG; with --window it shows them on the
+// display.
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -39,7 +40,7 @@ static bool WritePicture(SDL_Surface *screen, Assets &assets, const Scene &scene
     return true;
 }
 
-// Every scene, or only the one named by --scene.
+// Every scene of the layout, or only the one named by --scene.
 static bool WritePictures(SDL_Surface *screen, Assets &assets, const std::string &outDir,
                           const std::string &only)
 {
@@ -49,28 +50,81 @@ static bool WritePictures(SDL_Surface *screen, Assets &assets, const std::string
         std::fprintf(stderr, "cannot create %s: %s\n", outDir.c_str(), error.message().c_str());
         return false;
     }
-    for (const Scene &scene : ScenesFor(assets))
+    for (const Scene &scene : ScenesFor(assets, LayoutOf(screen)))
         if ((only.empty() || only == scene.name) && !WritePicture(screen, assets, scene, outDir))
             return false;
     return true;
 }
 
-static int Run(const Options &options)
+// A line for each scene that the layout leaves out, so that a missing
+// picture or window scene is never a mystery.
+static void TellLeftOut(const Assets &assets, Layout layout, const Options &options)
 {
-    // A software surface of 32 bits whatever the display: SDL converts for
-    // the window if it must, and the surface never needs locking.
-    SDL_Surface *screen = SDL_SetVideoMode(kSceneWidth, kSceneHeight, 32, SDL_SWSURFACE);
+    for (const Scene &scene : AllScenes()) {
+        if (scene.Fits(layout) || (scene.needsFonts && !assets.HasFonts()))
+            continue;
+        const LayoutSize needs = SizeOf(scene.smallest);
+        std::fprintf(stderr, "the %s scene is left out: it needs a %dx%d screen, not %dx%d\n",
+                     scene.name, needs.width, needs.height, options.width, options.height);
+    }
+}
+
+// The named scene can run here; if not, says why.
+static bool CanShow(const Assets &assets, Layout layout, const std::string &name)
+{
+    const Scene *scene = FindScene(name);
+    if (!scene || (scene->needsFonts && !assets.HasFonts())) {
+        std::fprintf(stderr, "no scene named '%s' in this demo\n", name.c_str());
+        return false;
+    }
+    if (!scene->Fits(layout)) {
+        const LayoutSize needs = SizeOf(scene->smallest);
+        std::fprintf(stderr, "the %s scene needs a %dx%d screen\n", name.c_str(), needs.width,
+                     needs.height);
+        return false;
+    }
+    return true;
+}
+
+// The video surface at the depth asked for, so that the scenes are drawn
+// by the library's paths for that depth: the PNG writer converts the
+// pixels, and in a window SDL converts them for the display. A software
+// surface never needs locking.
+static SDL_Surface *OpenScreen(const Options &options)
+{
+    SDL_Surface *screen =
+        SDL_SetVideoMode(options.width, options.height, options.depth, SDL_SWSURFACE);
     if (!screen) {
         std::fprintf(stderr, "SDL_SetVideoMode: %s\n", SDL_GetError());
-        return 1;
+        return nullptr;
     }
+    if (screen->format->BitsPerPixel != options.depth) {
+        std::fprintf(stderr, "SDL gave a screen of %d bits per pixel for --depth %d\n",
+                     screen->format->BitsPerPixel, options.depth);
+        return nullptr;
+    }
+    return screen;
+}
+
+static int Run(const Options &options)
+{
+    Layout layout;
+    if (!LayoutFor(options.width, options.height, &layout)) {
+        const LayoutSize smallest = SizeOf(Layout::kHandheld);
+        std::fprintf(stderr, "no scene fits a %dx%d screen: the smallest layout takes %dx%d\n",
+                     options.width, options.height, smallest.width, smallest.height);
+        return 2;
+    }
+    SDL_Surface *screen = OpenScreen(options);
+    if (!screen)
+        return 1;
     Assets assets;
     if (!LoadAssets(options.dataDir, options.fontsDir, screen, &assets))
         return 1;
-    if (!options.scene.empty() && !HasScene(assets, options.scene)) {
-        std::fprintf(stderr, "no scene named '%s' in this demo\n", options.scene.c_str());
+    if (!options.scene.empty() && !CanShow(assets, layout, options.scene))
         return 2;
-    }
+    if (options.scene.empty())
+        TellLeftOut(assets, layout, options);
     if (options.window) {
         RunWindow(screen, assets, options.scene);
         return 0;

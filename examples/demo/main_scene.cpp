@@ -1,49 +1,70 @@
 #include "main_scene.h"
 
+#include <vector>
+
 #include <kvt/kvt.h>
 
 #include "sprite_pictures.h"
 
 namespace kvt_demo {
 
+// Where the heading, the panels, the labels and the dialogs stand.
+struct MainLayout {
+    Layout layout;
+    const char *title;
+    SDL_Rect widgetsPanel, reportsPanel;
+    size_t reportLines;
+    const char *reportsTitle; // null for an untitled strip
+    const char *panelTitle;
+    std::vector<Label> labels;
+    SDL_Rect dialog;
+    WidgetBoard::Size board;
+};
+
 namespace {
 
-const SDL_Rect kWidgetsPanel = {16, 50, 400, 414};
-const SDL_Rect kReportsPanel = {432, 50, 192, 414};
-const size_t kReportLines = 19;
+const MainLayout kDesktop = {
+    Layout::kDesktop, "kvt: every widget, and the dialogs",
+    {16, 50, 400, 414}, {432, 50, 192, 414}, 19, ReportLog::kTitle,
+    "Tab order: left to right, top to bottom",
+    {{32, 82, "CUINormalButton: the file dialogs"},
+     {32, 138, "CUIGfxButton, CUIMultiGfxButton, CUISignButton"},
+     {32, 216, "CUITextEdit, CUIHorzValueBar"},
+     {32, 274, "CUIStringList, CUIVertScrollBar, CUIFileLister"}},
+    {140, 70, 360, 340}, WidgetBoard::Size::kDesktop,
+};
 
-const struct {
-    int x, y;
-    const char *text;
-} kLabels[] = {
-    {32, 82, "CUINormalButton: the file dialogs"},
-    {32, 138, "CUIGfxButton, CUIMultiGfxButton, CUISignButton"},
-    {32, 216, "CUITextEdit, CUIHorzValueBar"},
-    {32, 274, "CUIStringList, CUIVertScrollBar, CUIFileLister"},
+// The board packed into one untitled panel; the latest report, in a strip
+// beside the title, is what each dialog gave.
+const MainLayout kHandheld = {
+    Layout::kHandheld, "kvt widgets",
+    {4, 28, 312, 210}, {150, 2, 166, 24}, 1, nullptr,
+    "",
+    {},
+    {16, 12, 288, 216}, WidgetBoard::Size::kHandheld,
 };
 
 } // namespace
 
-const SDL_Rect MainScene::kDialog = {140, 70, 360, 340};
-
-MainScene::MainScene(Assets &assets)
-    : assets_(assets),
-      board_({&assets.theme, &assets.font, &assets.icons, kGemIcon, kIconBox}),
-      log_(kReportsPanel, kReportLines)
+MainScene::MainScene(Assets &assets, Layout layout)
+    : layout_(layout == Layout::kDesktop ? kDesktop : kHandheld), assets_(assets),
+      board_({&assets.theme, &assets.font, &assets.icons, kGemIcon, kIconBox}, layout_.board),
+      log_(layout_.reportsPanel, layout_.reportLines, layout_.reportsTitle)
 {
 }
 
 // The board goes first, and then the sample folder it scanned.
 MainScene::~MainScene() = default;
 
+const SDL_Rect &MainScene::Dialog() const { return layout_.dialog; }
+
 void MainScene::Draw(SDL_Surface *screen)
 {
     SDL_Rect whole = {0, 0, Uint16(screen->w), Uint16(screen->h)};
     assets_.theme.DrawBackground(screen, &whole);
-    KVT_DisplayText(screen, &assets_.titleFont, 16, 12, "kvt: every widget, and the dialogs");
-    PaintPanel(screen, assets_, kWidgetsPanel, "Tab order: left to right, top to bottom");
-    for (const auto &label : kLabels)
-        KVT_DisplayText(screen, &assets_.accentFont, label.x, label.y, label.text);
+    PaintHeading(screen, assets_, layout_.layout, layout_.title, nullptr);
+    PaintPanel(screen, assets_, layout_.widgetsPanel, layout_.panelTitle);
+    PaintLabels(screen, assets_, layout_.labels);
     board_.screen.DrawScreen(screen);
     log_.Paint(screen, assets_);
 }
@@ -67,7 +88,7 @@ void MainScene::HandleEvent(SDL_Event *event, SDL_Surface *screen)
 bool MainScene::RunOpenDialog(SDL_Surface *screen)
 {
     char name[KVT_DIALOG_RESULT_SIZE];
-    const SDL_Rect &d = kDialog;
+    const SDL_Rect &d = layout_.dialog;
     const bool chosen = KVT_OpenFileDialog(screen, d.x, d.y, d.w, d.h, &assets_.theme,
                                            &assets_.font, "Open a text file", "OK", "Cancel",
                                            name, kExtension);
@@ -79,7 +100,7 @@ bool MainScene::RunOpenDialog(SDL_Surface *screen)
 bool MainScene::RunSaveDialog(SDL_Surface *screen)
 {
     char name[KVT_DIALOG_RESULT_SIZE] = "";
-    const SDL_Rect &d = kDialog;
+    const SDL_Rect &d = layout_.dialog;
     const bool chosen = KVT_SaveFileDialog(screen, d.x, d.y, d.w, d.h, &assets_.theme,
                                            &assets_.font, "Save as text", "Save", "Cancel",
                                            name, kExtension);

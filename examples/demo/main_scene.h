@@ -20,16 +20,17 @@
 
 namespace kvt_demo {
 
+struct MainLayout;
+
 class MainScene : public LiveScene {
 public:
-    // Where the dialogs stand, what they list, and what the save dialog
-    // adds to a name that lacks it.
-    static const SDL_Rect kDialog;
+    // What the dialogs list, and what the save dialog adds to a name that
+    // lacks it.
     static constexpr const char *kExtension = WidgetBoard::kExtension;
     static const int kDialogRowHeight = 16; // the dialogs' list rows
     static const int kDialogBarWidth = 21;  // the dialogs' list bar, on its left
 
-    explicit MainScene(Assets &assets);
+    MainScene(Assets &assets, Layout layout);
     ~MainScene() override;
 
     // Paints the whole scene; does not update the display.
@@ -43,10 +44,13 @@ public:
     // The modal dialogs, reported; they answer what the library answered.
     bool RunOpenDialog(SDL_Surface *screen);
     bool RunSaveDialog(SDL_Surface *screen);
+    // Where the dialogs stand.
+    const SDL_Rect &Dialog() const;
 
 private:
     // First, so that the file widgets scan inside it and go before it does.
     SampleFolder folder_;
+    const MainLayout &layout_;
     Assets &assets_;
     WidgetBoard board_;
     ReportLog log_;

@@ -31,13 +31,12 @@ std::vector<std::string> DialogNames(const char *extension)
     return names;
 }
 
-// The middle of the row that shows `name` in a dialog's list, or of the
-// first row when the name is not listed.
-SDL_Rect RowOf(const char *name)
+// The middle of the row that shows `name` in the list of a dialog standing
+// at `d`, or of the first row when the name is not listed.
+SDL_Rect RowOf(const SDL_Rect &d, const char *name)
 {
     const std::vector<std::string> names = DialogNames(MainScene::kExtension);
     const int row = int(std::find(names.begin(), names.end(), name) - names.begin());
-    const SDL_Rect &d = MainScene::kDialog;
     const int inList = row < int(names.size()) ? row : 0;
     return {Sint16(d.x + 4 + MainScene::kDialogBarWidth + 40),
             Sint16(d.y + 30 + inList * MainScene::kDialogRowHeight + MainScene::kDialogRowHeight / 2),
@@ -45,9 +44,8 @@ SDL_Rect RowOf(const char *name)
 }
 
 // The middle of the OK button, the left one under each dialog.
-SDL_Rect OkButton()
+SDL_Rect OkButton(const SDL_Rect &d)
 {
-    const SDL_Rect &d = MainScene::kDialog;
     const int buttonWidth = (d.w - 16) >> 1;
     return {Sint16(d.x + 4 + buttonWidth / 2), Sint16(d.y + d.h - 32 + 14), 0, 0};
 }
@@ -99,7 +97,7 @@ bool ShootDialog(MainScene &scene, SDL_Surface *screen, bool save, const QueuedI
 
 void PaintMainScene(SDL_Surface *screen, Assets &assets)
 {
-    MainScene scene(assets);
+    MainScene scene(assets, LayoutOf(screen));
     scene.Draw(screen);
 }
 
@@ -111,22 +109,22 @@ bool PlayMainScene(SDL_Surface *screen, Assets &assets, const std::string &outDi
     const Picture main = PictureIn(outDir, "main.png");
     const Picture open = PictureIn(outDir, "dialog-open.png");
     const Picture save = PictureIn(outDir, "dialog-save.png");
-    MainScene scene(assets);
+    MainScene scene(assets, LayoutOf(screen));
     scene.Draw(screen);
     if (!Write(screen, main))
         return false;
-    const SDL_Rect ok = OkButton();
+    const SDL_Rect &d = scene.Dialog();
+    const SDL_Rect ok = OkButton(d);
     QueuedInput finish;
     finish.Click(ok.x, ok.y);
 
     QueuedInput pickTodo;
-    const SDL_Rect row = RowOf("todo.txt");
+    const SDL_Rect row = RowOf(d, "todo.txt");
     pickTodo.Click(row.x, row.y);
     if (!ShootDialog(scene, screen, false, pickTodo, finish, open))
         return false;
 
     // The field is the one wide widget just above the buttons.
-    const SDL_Rect &d = MainScene::kDialog;
     QueuedInput typeName;
     typeName.Click(d.x + d.w / 2, d.y + d.h - 70 + 14);
     typeName.Type("story");
@@ -135,7 +133,7 @@ bool PlayMainScene(SDL_Surface *screen, Assets &assets, const std::string &outDi
 
 std::unique_ptr<LiveScene> StartMainScene(SDL_Surface *screen, Assets &assets)
 {
-    auto scene = std::make_unique<MainScene>(assets);
+    auto scene = std::make_unique<MainScene>(assets, LayoutOf(screen));
     scene->Draw(screen);
     SDL_UpdateRect(screen, 0, 0, 0, 0);
     return scene;

@@ -12,6 +12,9 @@ struct Options {
     std::string fontsDir;  // where the sprite fonts are read from; empty: none
     std::string scene;     // only this scene headless, the first one shown
                            // in the window; empty: all, from the first
+    int width = 640;       // the screen's size and bits per pixel
+    int height = 480;
+    int depth = 32;
 };
 
 // Fills `options` from the command line, starting from the defaults

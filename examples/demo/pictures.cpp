@@ -59,9 +59,8 @@ static void ShadeBall(double nx, double ny, Uint8 *r, Uint8 *g, Uint8 *b)
     *b = ClampByte(110 + 130 * diffuse + 255 * spot + 140 * rim);
 }
 
-SDL_Surface *CreateBall()
+SDL_Surface *CreateBall(int size)
 {
-    const int size = 40;
     const double radius = size / 2.0 - 1;
     SDL_Surface *ball = CreateRgbSurface(size, size);
     if (!ball)

@@ -13,10 +13,11 @@ namespace kvt_demo {
 // without a seam.
 SDL_Surface *CreateBackgroundTile();
 
-// A 40x40 shaded glass ball with a slot cut through it. Everything that
-// is not ball is magenta (255, 0, 255), the colour the enlarging blit and
-// colour-keyed blits treat as transparent; the colour key is set.
-SDL_Surface *CreateBall();
+// A shaded glass ball with a slot cut through it, `size` pixels square.
+// Everything that is not ball is magenta (255, 0, 255), the colour the
+// enlarging blit and colour-keyed blits treat as transparent; the colour
+// key is set.
+SDL_Surface *CreateBall(int size = 40);
 
 } // namespace kvt_demo
 

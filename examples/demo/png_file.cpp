@@ -2,53 +2,91 @@
 
 #include <cstdio>
 #include <cstring>
+#include <vector>
 
 #include <png.h>
 
 namespace kvt_demo {
 
-// A 24-bit surface whose bytes run r, g, b in memory on a little-endian
-// host: exactly the rows that libpng's PNG_FORMAT_RGB expects.
-static SDL_Surface *CreateRgbBytesSurface(int width, int height)
+namespace {
+
+Uint32 ReadPixel(const Uint8 *at, int bytes)
 {
-    return SDL_CreateRGBSurface(SDL_SWSURFACE, width, height, 24, 0x0000FF, 0x00FF00, 0xFF0000,
-                                0);
+    switch (bytes) {
+    case 1:
+        return *at;
+    case 2:
+        return *reinterpret_cast<const Uint16 *>(at);
+    case 3:
+        if (SDL_BYTEORDER == SDL_LIL_ENDIAN)
+            return Uint32(at[0]) | Uint32(at[1]) << 8 | Uint32(at[2]) << 16;
+        return Uint32(at[2]) | Uint32(at[1]) << 8 | Uint32(at[0]) << 16;
+    default:
+        return *reinterpret_cast<const Uint32 *>(at);
+    }
 }
+
+// A channel's field of 8 - loss bits, widened to 8 by repeating it below
+// itself; a channel that the format lacks (loss 8) reads as 0.
+Uint8 Widen(Uint32 pixel, Uint32 mask, Uint8 shift, Uint8 loss)
+{
+    const int bits = 8 - loss;
+    unsigned value = ((pixel & mask) >> shift) << loss;
+    for (int have = bits; have > 0 && have < 8; have *= 2)
+        value |= value >> have;
+    return Uint8(value);
+}
+
+void ToRgb(const SDL_PixelFormat *f, Uint32 pixel, Uint8 *rgb)
+{
+    if (f->palette) {
+        const SDL_Color &c = f->palette->colors[pixel < Uint32(f->palette->ncolors) ? pixel : 0];
+        rgb[0] = c.r, rgb[1] = c.g, rgb[2] = c.b;
+        return;
+    }
+    rgb[0] = Widen(pixel, f->Rmask, f->Rshift, f->Rloss);
+    rgb[1] = Widen(pixel, f->Gmask, f->Gshift, f->Gloss);
+    rgb[2] = Widen(pixel, f->Bmask, f->Bshift, f->Bloss);
+}
+
+// The surface's pixels as rows of r, g, b bytes.
+bool ReadRgbRows(SDL_Surface *surface, std::vector<Uint8> *rows)
+{
+    if (SDL_MUSTLOCK(surface) && SDL_LockSurface(surface) != 0)
+        return false;
+    const int bytes = surface->format->BytesPerPixel;
+    rows->resize(size_t(surface->w) * surface->h * 3);
+    Uint8 *out = rows->data();
+    for (int y = 0; y < surface->h; ++y) {
+        const Uint8 *row = static_cast<const Uint8 *>(surface->pixels) + y * surface->pitch;
+        for (int x = 0; x < surface->w; ++x, out += 3)
+            ToRgb(surface->format, ReadPixel(row + x * bytes, bytes), out);
+    }
+    if (SDL_MUSTLOCK(surface))
+        SDL_UnlockSurface(surface);
+    return true;
+}
+
+} // namespace
 
 bool WritePng(SDL_Surface *surface, const char *path)
 {
-    SDL_Surface *rgb = CreateRgbBytesSurface(surface->w, surface->h);
-    if (!rgb) {
-        std::fprintf(stderr, "cannot make a %dx%d RGB surface: %s\n", surface->w, surface->h,
-                     SDL_GetError());
+    std::vector<Uint8> rows;
+    if (!ReadRgbRows(surface, &rows)) {
+        std::fprintf(stderr, "cannot read the pixels for %s: %s\n", path, SDL_GetError());
         return false;
     }
-    // The blit converts from any format; a colour key or surface alpha on
-    // the source would leave holes, so both are switched off for it.
-    Uint32 keyFlags = surface->flags & (SDL_SRCCOLORKEY | SDL_RLEACCEL);
-    Uint32 key = surface->format->colorkey;
-    Uint32 alphaFlags = surface->flags & SDL_SRCALPHA;
-    Uint8 alpha = surface->format->alpha;
-    SDL_SetColorKey(surface, 0, 0);
-    SDL_SetAlpha(surface, 0, SDL_ALPHA_OPAQUE);
-    bool copied = SDL_BlitSurface(surface, nullptr, rgb, nullptr) == 0;
-    SDL_SetColorKey(surface, keyFlags, key);
-    SDL_SetAlpha(surface, alphaFlags, alpha);
-
     png_image image;
     std::memset(&image, 0, sizeof image);
     image.version = PNG_IMAGE_VERSION;
-    image.width = rgb->w;
-    image.height = rgb->h;
+    image.width = png_uint_32(surface->w);
+    image.height = png_uint_32(surface->h);
     image.format = PNG_FORMAT_RGB;
-    // One byte per component, so the row stride in components is the pitch.
-    bool written = copied && png_image_write_to_file(&image, path, 0, rgb->pixels, rgb->pitch,
-                                                     nullptr);
+    const bool written =
+        png_image_write_to_file(&image, path, 0, rows.data(), surface->w * 3, nullptr);
     if (!written)
-        std::fprintf(stderr, "cannot write %s: %s\n", path,
-                     copied ? image.message : SDL_GetError());
+        std::fprintf(stderr, "cannot write %s: %s\n", path, image.message);
     png_image_free(&image);
-    SDL_FreeSurface(rgb);
     return written;
 }
 

@@ -7,6 +7,25 @@
 
 namespace kvt_demo {
 
+void PaintHeading(SDL_Surface *screen, Assets &assets, Layout layout, const char *title,
+                  const char *note)
+{
+    if (layout == Layout::kHandheld) {
+        KVT_DisplayText(screen, &assets.titleFont, 8, 2, title);
+        return;
+    }
+    KVT_DisplayText(screen, &assets.titleFont, 16, 12, title);
+    if (note)
+        KVT_DisplayText(screen, &assets.font, 624 - KVT_GetTextWidth(&assets.font, note), 20,
+                        note);
+}
+
+void PaintLabels(SDL_Surface *screen, Assets &assets, const std::vector<Label> &labels)
+{
+    for (const Label &label : labels)
+        KVT_DisplayText(screen, &assets.accentFont, label.x, label.y, label.text);
+}
+
 void PaintPanel(SDL_Surface *screen, Assets &assets, const SDL_Rect &panel, const char *title)
 {
     SDL_Rect area = panel;
@@ -19,6 +38,8 @@ void PaintPanel(SDL_Surface *screen, Assets &assets, const SDL_Rect &panel, cons
 void PaintStatusPanel(SDL_Surface *screen, Assets &assets, const SDL_Rect &panel,
                       const char *status)
 {
+    if (panel.w == 0)
+        return;
     PaintPanel(screen, assets, panel, "What happens");
     const int left = panel.x + 10, room = panel.w - 20;
     int y = panel.y + 32;
@@ -41,6 +62,15 @@ void PaintStatusPanel(SDL_Surface *screen, Assets &assets, const SDL_Rect &panel
             break;
     }
     KVT_DisplayText(screen, &assets.font, left, y, line.c_str());
+}
+
+void ShowStatusPanel(SDL_Surface *screen, Assets &assets, const SDL_Rect &panel,
+                     const char *status)
+{
+    if (panel.w == 0)
+        return; // a zero-sized update would send the whole screen
+    PaintStatusPanel(screen, assets, panel, status);
+    SDL_UpdateRect(screen, panel.x, panel.y, panel.w, panel.h);
 }
 
 void ReportLog::Log(const std::string &line)
@@ -83,8 +113,8 @@ std::string Shortened(Assets &assets, const std::string &line, int room)
 
 void ReportLog::Paint(SDL_Surface *screen, Assets &assets) const
 {
-    PaintPanel(screen, assets, panel_, "Reports (also on stdout)");
-    int y = panel_.y + 32;
+    PaintPanel(screen, assets, panel_, title_ ? title_ : "");
+    int y = panel_.y + (title_ ? 32 : 4);
     for (const std::string &line : reports_) {
         const std::string shown = Shortened(assets, line, panel_.w - 20);
         KVT_DisplayText(screen, &assets.font, panel_.x + 10, y, shown.c_str());

@@ -2,11 +2,39 @@
 
 namespace kvt_demo {
 
+LayoutSize SizeOf(Layout layout)
+{
+    return layout == Layout::kDesktop ? LayoutSize{640, 480} : LayoutSize{320, 240};
+}
+
+bool LayoutFor(int width, int height, Layout *layout)
+{
+    for (Layout candidate : {Layout::kDesktop, Layout::kHandheld}) {
+        const LayoutSize size = SizeOf(candidate);
+        if (width >= size.width && height >= size.height) {
+            *layout = candidate;
+            return true;
+        }
+    }
+    return false;
+}
+
+// The demo makes no screen that holds no layout, so the fallback is only
+// for a caller that hands a scene a smaller surface.
+Layout LayoutOf(const SDL_Surface *screen)
+{
+    Layout layout = Layout::kHandheld;
+    LayoutFor(screen->w, screen->h, &layout);
+    return layout;
+}
+
 const std::vector<Scene> &AllScenes()
 {
+    // The text scene's lines and sprites are laid out for 640 pixels
+    // across, and half of that cannot hold them.
     static const std::vector<Scene> scenes = {
         {"drawing", PaintDrawingScene},
-        {"text", PaintTextScene, true},
+        {"text", PaintTextScene, true, nullptr, nullptr, Layout::kDesktop},
         {"buttons", PaintButtonsScene, true, PlayButtonsScene, StartButtonsScene},
         {"controls", PaintControlsScene, true, PlayControlsScene, StartControlsScene},
         {"lists", PaintListsScene, true, PlayListsScene, StartListsScene},
@@ -15,21 +43,21 @@ const std::vector<Scene> &AllScenes()
     return scenes;
 }
 
-std::vector<Scene> ScenesFor(const Assets &assets)
+std::vector<Scene> ScenesFor(const Assets &assets, Layout layout)
 {
     std::vector<Scene> scenes;
     for (const Scene &scene : AllScenes())
-        if (!scene.needsFonts || assets.HasFonts())
+        if ((!scene.needsFonts || assets.HasFonts()) && scene.Fits(layout))
             scenes.push_back(scene);
     return scenes;
 }
 
-bool HasScene(const Assets &assets, const std::string &name)
+const Scene *FindScene(const std::string &name)
 {
-    for (const Scene &scene : ScenesFor(assets))
+    for (const Scene &scene : AllScenes())
         if (name == scene.name)
-            return true;
-    return false;
+            return &scene;
+    return nullptr;
 }
 
 } // namespace kvt_demo

@@ -1,11 +1,12 @@
 #ifndef KVT_DEMO_SCENES_H
 #define KVT_DEMO_SCENES_H
 
-// The demo is a list of scenes. Each paints one 640x480 picture from
-// scratch; the headless run writes it to <name>.png, the window shows it.
-// A new capability joins the demo by adding its paint function to the
-// list in scenes.cpp. A scene of widgets also plays a script of events
-// headless, writing several pictures, and reacts to input in the window.
+// The demo is a list of scenes. Each paints one picture of the whole
+// screen from scratch; the headless run writes it to <name>.png, the
+// window shows it. A new capability joins the demo by adding its paint
+// function to the list in scenes.cpp. A scene of widgets also plays a
+// script of events headless, writing several pictures, and reacts to
+// input in the window.
 
 #include <memory>
 #include <string>
@@ -17,8 +18,22 @@
 
 namespace kvt_demo {
 
-const int kSceneWidth = 640;
-const int kSceneHeight = 480;
+// How a scene arranges itself. The desktop layout takes 640x480; the
+// handheld one takes 320x240, the screen of the SDL 1.2 handhelds, where
+// a scene shows less or smaller (and some scenes have no such layout).
+// A scene lays itself out from the screen's top left corner, and its
+// background covers whatever a larger screen has beyond that.
+enum class Layout { kHandheld, kDesktop };
+
+struct LayoutSize {
+    int width, height;
+};
+LayoutSize SizeOf(Layout layout);
+// The largest layout that a width x height screen holds; false when even
+// the handheld one does not fit.
+bool LayoutFor(int width, int height, Layout *layout);
+// The layout of the screen that a scene is given.
+Layout LayoutOf(const SDL_Surface *screen);
 
 // A scene that lives in the window while it is shown: it painted itself
 // when it was made, and hears every event that the window does not keep
@@ -42,12 +57,17 @@ struct Scene {
     bool (*play)(SDL_Surface *screen, Assets &assets, const std::string &outDir) = nullptr;
     // In the window, instead of the still picture from `paint`.
     std::unique_ptr<LiveScene> (*start)(SDL_Surface *screen, Assets &assets) = nullptr;
+    // The smallest layout that the scene has.
+    Layout smallest = Layout::kHandheld;
+
+    bool Fits(Layout layout) const { return layout >= smallest; }
 };
 
 const std::vector<Scene> &AllScenes();
-// The scenes that `assets` can paint.
-std::vector<Scene> ScenesFor(const Assets &assets);
-bool HasScene(const Assets &assets, const std::string &name);
+// The scenes that `assets` can paint in `layout`.
+std::vector<Scene> ScenesFor(const Assets &assets, Layout layout);
+// The scene of that name among AllScenes, or null.
+const Scene *FindScene(const std::string &name);
 
 // The scene functions, one per file.
 void PaintDrawingScene(SDL_Surface *screen, Assets &assets);

@@ -48,7 +48,7 @@ size_t IndexOf(const std::vector<Scene> &scenes, const std::string &name)
 
 void RunWindow(SDL_Surface *screen, Assets &assets, const std::string &firstScene)
 {
-    const std::vector<Scene> scenes = ScenesFor(assets);
+    const std::vector<Scene> scenes = ScenesFor(assets, LayoutOf(screen));
     const size_t count = scenes.size();
     // The main screen first, unless a scene is named.
     size_t index = IndexOf(scenes, firstScene.empty() ? "main" : firstScene);

@@ -10,7 +10,7 @@ const int kBar = 20; // scroll bars' width and their end buttons' length
 const int kRow = 18; // the string list's and the lister's rows
 const Uint16 kIconSlot = 0; // stands for the graphic buttons' size
 
-const SDL_Rect kPlaces[WidgetBoard::kWidgets] = {
+const SDL_Rect kDesktopPlaces[WidgetBoard::kWidgets] = {
     {32, 102, 110, 26},  {154, 102, 110, 26},                     // Open..., Save...
     {32, 158, kIconSlot, kIconSlot}, {92, 158, kIconSlot, kIconSlot}, // graphic buttons
     {152, 169, 24, 24},  {182, 169, 24, 24},                      // sign buttons
@@ -20,11 +20,25 @@ const SDL_Rect kPlaces[WidgetBoard::kWidgets] = {
     {32, 430, 368, 22},                                           // file chooser
 };
 
+// The same rows, closer together and narrower, under a 28-pixel heading;
+// the lists show five rows.
+const SDL_Rect kHandheldPlaces[WidgetBoard::kWidgets] = {
+    {10, 34, 74, 24},    {88, 34, 74, 24},                        // Open..., Save...
+    {10, 62, kIconSlot, kIconSlot}, {60, 62, kIconSlot, kIconSlot}, // graphic buttons
+    {254, 34, 24, 24},   {282, 34, 24, 24},                       // sign buttons
+    {168, 35, 82, 22},                                            // bool chooser
+    {112, 62, 198, 24},  {112, 90, 198, 20},                      // field, value bar
+    {10, 114, 112, 94},  {126, 114, kBar, 94}, {150, 114, 160, 94}, // lists, bar
+    {10, 212, 300, 22},                                           // file chooser
+};
+
 const char *const kEntryWords[] = {"level", "save", "map", "sprite", "theme", "font", "sound"};
 
 } // namespace
 
-WidgetBoard::WidgetBoard(const BoardLook &look) : screen(kWidgets), look_(look)
+WidgetBoard::WidgetBoard(const BoardLook &look, Size size)
+    : screen(kWidgets), look_(look),
+      places_(size == Size::kDesktop ? kDesktopPlaces : kHandheldPlaces)
 {
     for (const char *word : kEntryWords)
         entryTexts_.push_back(std::string("a ") + word);
@@ -39,7 +53,7 @@ WidgetBoard::WidgetBoard(const BoardLook &look) : screen(kWidgets), look_(look)
 
 SDL_Rect WidgetBoard::Place(int widget) const
 {
-    SDL_Rect place = kPlaces[widget];
+    SDL_Rect place = places_[widget];
     if (place.w == kIconSlot)
         place.w = place.h = Uint16(look_.iconBox + 2);
     return place;

@@ -38,12 +38,17 @@ public:
         kWidgets
     };
 
+    // Where the widgets stand: spread over 410x460, or packed into a
+    // handheld's 320x240 screen with less room for each.
+    enum class Size { kDesktop, kHandheld };
+
     // The extension that the file chooser lists.
     static constexpr const char *kExtension = "txt";
-    // Everything lies inside this rectangle, from the origin.
+    // In the desktop arrangement everything lies inside this rectangle,
+    // from the origin.
     static const int kWidth = 410, kHeight = 460;
 
-    explicit WidgetBoard(const BoardLook &look);
+    explicit WidgetBoard(const BoardLook &look, Size size = Size::kDesktop);
     WidgetBoard(const WidgetBoard &) = delete;
     WidgetBoard &operator=(const WidgetBoard &) = delete;
 
@@ -55,6 +60,7 @@ public:
 
 private:
     BoardLook look_;
+    const SDL_Rect *places_;
     std::vector<std::string> entryTexts_;
     List entries_; // points into entryTexts_
     std::unique_ptr<CUIObject> widgets_[kWidgets];

@@ -1,17 +1,19 @@
 #!/bin/sh
 # Runs the demo in a window on a private X server (Xvfb), presses Escape in
-# it, and expects it to end with exit code 0. Exit code 77 (skipped) when
-# Xvfb or xdotool is missing, or no X server can be started.
+# it, and expects it to end with exit code 0. ARGS go to the demo, e.g. a
+# screen size and depth. Exit code 77 (skipped) when Xvfb or xdotool is
+# missing, or no X server can be started.
 #
-# usage: check_window.sh DEMO
+# usage: check_window.sh DEMO [ARGS...]
 set -u
 DEMO=$1
+shift
 . "$(dirname "$0")/x_session.sh"
 
 xs_require Xvfb xdotool timeout
 xs_start_server
 
-timeout 30 "$DEMO" --window &
+timeout 30 "$DEMO" --window "$@" &
 DEMO_PID=$!
 # Escape goes through XTEST to the focused window, as a real key press
 # would; it is sent again while the demo still runs.
@@ -38,4 +40,4 @@ wait "$DEMO_PID"
 status=$?
 [ $pressed = yes ] || { echo "kvt-demo --window ended ($status) before its window could take a key" >&2; exit 1; }
 [ $status -eq 0 ] || { echo "kvt-demo --window ended with $status" >&2; exit 1; }
-echo "kvt-demo --window opened on $DISPLAY (window $WINDOW) and closed on Escape"
+echo "kvt-demo --window $* opened on $DISPLAY (window $WINDOW) and closed on Escape"

@@ -1,6 +1,8 @@
 #!/bin/sh
 # Runs the headless demo twice, once on classic SDL 1.2 and once on
-# sdl12-compat, and compares the pictures of the two runs pixel for pixel.
+# sdl12-compat, and compares the pictures of the two runs pixel for pixel:
+# on the default screen (640x480 at 32 bits per pixel) and on a handheld's
+# (320x240 at 16, 5-6-5), where the two SDLs' rules for colours differ.
 # Both SDLs install libSDL-1.2.so.0, so LD_LIBRARY_PATH picks one: the
 # classic run gets the caller's path without any sdl12-compat folder (the
 # whole suite may be running on sdl12-compat), the compat run gets
@@ -8,13 +10,15 @@
 # the loader really picked the SDL meant.
 #
 # Every picture must be identical, except those listed in DIFFERENCES (a
-# picture name and the reason, one a line, # starts a comment): a listed
-# picture must differ, so that a listing outlives neither the difference
-# nor the picture. Every picture's outcome is printed, classic first.
+# picture name and the reason, one a line, # starts a comment; the
+# handheld run's pictures are named handheld/NAME): a listed picture must
+# differ, so that a listing outlives neither the difference nor the
+# picture. Every picture's outcome is printed, classic first.
 #
 # usage: compare_sdls.sh DEMO PNG_CHECK SDL_VERSION COMPAT_DIR OUT_DIR DIFFERENCES
 set -u
 DEMO=$1 CHECK=$2 VERSION=$3 COMPAT=$4 OUT=$5 DIFFERENCES=$6
+. "$(dirname "$0")/classic_sdl.sh"
 
 fail() {
     echo "$*" >&2
@@ -24,9 +28,7 @@ fail() {
 [ -e "$COMPAT/libSDL-1.2.so.0" ] ||
     fail "no sdl12-compat in $COMPAT: install Debian's libsdl1.2-compat (make deps does)"
 
-classic_path=$(printf '%s' "${LD_LIBRARY_PATH:-}" |
-    awk -v RS=: -v compat="$COMPAT" '$0 != "" && $0 != compat && $0 !~ /sdl12-compat/' |
-    paste -sd: -)
+classic_path=$(classic_library_path "$COMPAT")
 compat_path=$COMPAT${classic_path:+:$classic_path}
 
 # The listed names, after checking that each comes with a reason.
@@ -39,15 +41,25 @@ reason_for() {
     sed 's/#.*//' "$DIFFERENCES" | awk -v name="$1" '$1 == name { $1 = ""; sub(/^ +/, ""); print }'
 }
 
+# The demo on one SDL, into FOLDER, with the screen options given; the
+# names of its pictures, relative to $OUT/KIND and without .png, are added
+# to $OUT/KIND.list.
+run_demo() {
+    kind=$1 path=$2 folder=$3
+    shift 3
+    LD_LIBRARY_PATH=$path "$DEMO" --out "$folder" "$@" >"$folder.all" ||
+        fail "the demo $* failed on $kind SDL (LD_LIBRARY_PATH=$path)"
+    sed -n "s|^$OUT/$kind/\\(.*\\)\\.png\$|\\1|p" "$folder.all" >>"$OUT/$kind.list"
+}
+
 rm -rf "$OUT"
 mkdir -p "$OUT"
 for kind in classic compat; do
     if [ $kind = classic ]; then path=$classic_path; else path=$compat_path; fi
     printf '%s: ' $kind
     LD_LIBRARY_PATH=$path "$VERSION" $kind || exit 1
-    LD_LIBRARY_PATH=$path "$DEMO" --out "$OUT/$kind" >"$OUT/$kind.all" ||
-        fail "the demo failed on $kind SDL (LD_LIBRARY_PATH=$path)"
-    sed -n "s|^$OUT/$kind/\\(.*\\)\\.png\$|\\1|p" "$OUT/$kind.all" >"$OUT/$kind.list"
+    run_demo $kind "$path" "$OUT/$kind"
+    run_demo $kind "$path" "$OUT/$kind/handheld" --size 320x240 --depth 16
     [ -s "$OUT/$kind.list" ] || fail "the demo reported no picture on $kind SDL"
 done
 sort "$OUT/classic.list" >"$OUT/classic.sorted"

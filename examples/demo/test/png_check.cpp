@@ -1,6 +1,11 @@
-// kvt-png-check FILE WIDTH HEIGHT MIN_COLOURS: exit code 0 when FILE is a
-// PNG that libpng reads whole, of the given size, showing at least
-// MIN_COLOURS different colours (so a blank or nearly blank picture fails).
+// kvt-png-check FILE WIDTH HEIGHT MIN_COLOURS [DEPTH]: exit code 0 when
+// FILE is a PNG that libpng reads whole, of the given size, showing at
+// least MIN_COLOURS different colours (so a blank or nearly blank picture
+// fails). With DEPTH, the picture must also be what the demo's PNG writer
+// makes of a surface of that many bits per pixel: at 16, every colour is
+// a 5-6-5 one whose channels were widened by repeating their top bits; at
+// 8, there are at most 256 colours. A picture drawn at a greater depth
+// fails either.
 //
 // kvt-png-check --compare FILE_A FILE_B: compares two PNGs pixel for pixel
 // and prints one line, "identical" or how many pixels differ, the first of
@@ -33,7 +38,36 @@ static bool ReadRgb(const char *path, png_image *image, std::vector<unsigned cha
     return true;
 }
 
-static int CheckPicture(const char *path, unsigned width, unsigned height, size_t minColours)
+// True when each channel's low bits repeat its top ones, as a 5-bit red
+// and blue and a 6-bit green widen to 8 bits.
+static bool IsWidened565(unsigned rgb)
+{
+    const unsigned r = rgb >> 16, g = (rgb >> 8) & 0xFF, b = rgb & 0xFF;
+    return (r & 7) == r >> 5 && (g & 3) == g >> 6 && (b & 7) == b >> 5;
+}
+
+// The colours fit a surface of `depth` bits per pixel, as far as that can
+// be told from them.
+static bool FitsDepth(const char *path, const std::unordered_set<unsigned> &colours, int depth)
+{
+    if (depth == 8 && colours.size() > 256) {
+        std::fprintf(stderr, "%s: %zu colours, more than 8 bits per pixel hold\n", path,
+                     colours.size());
+        return false;
+    }
+    if (depth != 16)
+        return true;
+    for (unsigned rgb : colours)
+        if (!IsWidened565(rgb)) {
+            std::fprintf(stderr, "%s: colour %u,%u,%u is not a widened 5-6-5 one\n", path,
+                         rgb >> 16, (rgb >> 8) & 0xFF, rgb & 0xFF);
+            return false;
+        }
+    return true;
+}
+
+static int CheckPicture(const char *path, unsigned width, unsigned height, size_t minColours,
+                        int depth)
 {
     png_image image;
     std::vector<unsigned char> pixels;
@@ -52,7 +86,7 @@ static int CheckPicture(const char *path, unsigned width, unsigned height, size_
                      colours.size(), minColours);
         return 1;
     }
-    return 0;
+    return FitsDepth(path, colours, depth) ? 0 : 1;
 }
 
 static int ComparePictures(const char *pathA, const char *pathB)
@@ -104,13 +138,13 @@ int main(int argc, char **argv)
 {
     if (argc == 4 && std::strcmp(argv[1], "--compare") == 0)
         return ComparePictures(argv[2], argv[3]);
-    if (argc != 5) {
+    if (argc != 5 && argc != 6) {
         std::fprintf(stderr,
-                     "usage: %s FILE WIDTH HEIGHT MIN_COLOURS\n"
+                     "usage: %s FILE WIDTH HEIGHT MIN_COLOURS [DEPTH]\n"
                      "       %s --compare FILE_A FILE_B\n",
                      argv[0], argv[0]);
         return 2;
     }
     return CheckPicture(argv[1], unsigned(std::atoi(argv[2])), unsigned(std::atoi(argv[3])),
-                        size_t(std::atoi(argv[4])));
+                        size_t(std::atoi(argv[4])), argc == 6 ? std::atoi(argv[5]) : 0);
 }
