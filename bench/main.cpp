@@ -30,6 +30,11 @@ int main(int argc, char **argv)
     benchmark::AddCustomContext("sdl_version", std::to_string(v->major) + "." +
                                                    std::to_string(v->minor) + "." +
                                                    std::to_string(v->patch));
+#if defined(KVT_PORTABLE)
+    benchmark::AddCustomContext("kvt_paths", "portable");
+#else
+    benchmark::AddCustomContext("kvt_paths", "vector");
+#endif
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

@@ -2,6 +2,7 @@
 
 #include <kvt/draw/internal/byte_channels.h>
 #include <kvt/draw/internal/fill_alpha_paths.h>
+#include <kvt/draw/internal/vector_units.h>
 
 namespace kvt {
 
@@ -92,25 +93,6 @@ bool FillAlphaIndexed(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
     });
 }
 
-bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
-{
-    ByteLanes lanes;
-    if (!MakeByteLanes(surface->format, colour, &lanes))
-        return false;
-    WithDepth(surface->format, [&](auto pixel) {
-        constexpr int kBytes = decltype(pixel)::kBytes;
-        if constexpr (kBytes >= 3) {
-            for (int y = area.y0; y < area.y1; ++y) {
-                Uint8 *p = PixelAddress(surface, area.x0, y);
-                for (int x = area.x0; x < area.x1; ++x, p += kBytes)
-                    for (int k = 0; k < kBytes; ++k)
-                        p[k] = Uint8((p[k] * Uint32(lanes.mul[k]) + lanes.add[k]) >> 8);
-            }
-        }
-    });
-    return true;
-}
-
 } // namespace kvt
 
 void KVT_FillRectAlpha(SDL_Surface *surface, int x, int y, int w, int h, KVT_RGBA colour)
@@ -120,14 +102,21 @@ void KVT_FillRectAlpha(SDL_Surface *surface, int x, int y, int w, int h, KVT_RGB
         return;
     if (kvt::FillAlphaIndexed(surface, area, colour))
         return;
-#if defined(__SSE2__)
+#if KVT_X86_VECTORS
     if (kvt::FillAlphaBytesAvx2(surface, area, colour) ||
         kvt::FillAlphaBytesSse2(surface, area, colour) ||
         kvt::FillAlphaPacked16Avx2(surface, area, colour) ||
         kvt::FillAlphaPacked16Sse2(surface, area, colour))
         return;
 #endif
-    if (kvt::FillAlphaBytes(surface, area, colour) || kvt::FillAlphaChannels(surface, area, colour))
+#if KVT_VECTOR_KERNELS
+    if (kvt::FillAlphaBytesVector(surface, area, colour) ||
+        kvt::FillAlphaPacked16Vector(surface, area, colour))
+        return;
+#endif
+    if (kvt::FillAlphaBytes(surface, area, colour) ||
+        kvt::FillAlphaPacked16(surface, area, colour) ||
+        kvt::FillAlphaChannels(surface, area, colour))
         return;
     kvt::FillAlphaPlain(surface, area, colour);
 }

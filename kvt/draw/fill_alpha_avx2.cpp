@@ -3,7 +3,8 @@
 // are compiled for AVX2 and only called once the processor has said that
 // it has it. The arithmetic is that of fill_alpha_sse2.cpp on twice the
 // width.
-#if defined(__SSE2__)
+#include <kvt/draw/internal/vector_units.h>
+#if KVT_X86_VECTORS
 
 #include <immintrin.h>
 

@@ -1,7 +1,8 @@
 // SSE2 forms of the translucent fill. Each gives the same bytes as
 // FillAlphaPlain: the blend (d * a + c * (255 - a)) >> 8 never exceeds
 // 255 * 255, so it is done exactly in unsigned 16-bit lanes.
-#if defined(__SSE2__)
+#include <kvt/draw/internal/vector_units.h>
+#if KVT_X86_VECTORS
 
 #include <emmintrin.h>
 

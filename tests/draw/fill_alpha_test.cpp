@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <kvt/draw/internal/fill_alpha_paths.h>
+#include <kvt/draw/internal/vector_units.h>
 #include <kvt/draw/pixel.h>
 
 #include "support/surface_pair.h"
@@ -18,7 +19,7 @@ namespace {
 bool Everywhere(const SDL_PixelFormat *) { return true; }
 bool Paletted(const SDL_PixelFormat *f) { return f->BytesPerPixel == 1; }
 bool TrueColour(const SDL_PixelFormat *f) { return f->BytesPerPixel > 1; }
-[[maybe_unused]] bool TwoBytes(const SDL_PixelFormat *f) { return f->BytesPerPixel == 2; }
+bool TwoBytes(const SDL_PixelFormat *f) { return f->BytesPerPixel == 2; }
 bool IsWholeByte(Uint32 mask)
 {
     return mask == 0xFF || mask == 0xFF00 || mask == 0xFF0000 || mask == 0xFF000000;
@@ -29,7 +30,15 @@ bool ThreeOrFourBytes(const SDL_PixelFormat *f)
            IsWholeByte(f->Bmask);
 }
 
-#if defined(__SSE2__)
+#if KVT_VECTOR_KERNELS
+bool ThreeOrFourBytesOnVectors(const SDL_PixelFormat *f)
+{
+    return ThreeOrFourBytes(f) && kvt::VectorKernelsRun();
+}
+bool TwoBytesOnVectors(const SDL_PixelFormat *f) { return TwoBytes(f) && kvt::VectorKernelsRun(); }
+#endif
+
+#if KVT_X86_VECTORS
 bool ThreeOrFourBytesOnAvx2(const SDL_PixelFormat *f)
 {
     return ThreeOrFourBytes(f) && __builtin_cpu_supports("avx2");
@@ -53,7 +62,12 @@ const FillPath kPaths[] = {
     {"Indexed", kvt::FillAlphaIndexed, Paletted},
     {"Channels", kvt::FillAlphaChannels, TrueColour},
     {"Bytes", kvt::FillAlphaBytes, ThreeOrFourBytes},
-#if defined(__SSE2__)
+    {"Packed16", kvt::FillAlphaPacked16, TwoBytes},
+#if KVT_VECTOR_KERNELS
+    {"BytesVector", kvt::FillAlphaBytesVector, ThreeOrFourBytesOnVectors},
+    {"Packed16Vector", kvt::FillAlphaPacked16Vector, TwoBytesOnVectors},
+#endif
+#if KVT_X86_VECTORS
     {"BytesSse2", kvt::FillAlphaBytesSse2, ThreeOrFourBytes},
     {"Packed16Sse2", kvt::FillAlphaPacked16Sse2, TwoBytes},
     {"BytesAvx2", kvt::FillAlphaBytesAvx2, ThreeOrFourBytesOnAvx2},

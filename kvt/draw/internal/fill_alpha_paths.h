@@ -5,12 +5,15 @@
 // surface and not empty. KVT_FillRectAlpha picks the fastest one that
 // applies; tests and benchmarks call each one directly to prove them equal
 // to the plain one. The x86 vector forms live in fill_alpha_sse2.cpp and
-// fill_alpha_avx2.cpp; every other processor uses the portable ones.
+// fill_alpha_avx2.cpp, the kernels that become NEON on ARM in
+// fill_alpha_vector.cpp, and the portable ones, several channels to a
+// machine word, in fill_alpha_swar.cpp.
 
 #include <SDL.h>
 
 #include <kvt/draw/depth.h>
 #include <kvt/draw/internal/area.h>
+#include <kvt/draw/internal/vector_units.h>
 #include <kvt/draw/rgba.h>
 
 namespace kvt {
@@ -75,7 +78,8 @@ bool FillAlphaIndexed(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 // Any true-colour format whose channels fit in 8 bits: the split and the
 // mapping are done inline, with no library call per pixel.
 bool FillAlphaChannels(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
-// 3 and 4 bytes per pixel with whole-byte channels, byte by byte.
+// 3 and 4 bytes per pixel with whole-byte channels, byte by byte, several
+// bytes to a machine word.
 bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 
 // True for a learned form (ColourForm::Learned) of a 2-byte format that
@@ -84,7 +88,19 @@ bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 // lane.
 bool HasPacked16Channels(const ColourForm &form);
 
-#if defined(__SSE2__)
+// Formats with HasPacked16Channels, several pixels to a machine word.
+bool FillAlphaPacked16(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+
+#if KVT_VECTOR_KERNELS
+// FillAlphaBytes and FillAlphaPacked16 on 16 bytes at a time, written once
+// with GCC's vector extensions. On 32-bit ARM they answer false when the
+// processor has no NEON.
+bool VectorKernelsRun();
+bool FillAlphaBytesVector(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+bool FillAlphaPacked16Vector(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
+#endif
+
+#if KVT_X86_VECTORS
 // FillAlphaBytes on 16 bytes at a time.
 bool FillAlphaBytesSse2(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 // Formats with HasPacked16Channels, 8 pixels at a time.

@@ -5,7 +5,8 @@
 // the tails of the AVX2 one. The blend (d * a + c * (255 - a)) >> 8 never
 // exceeds 255 * 255, so it is exact in unsigned 16-bit lanes.
 
-#if defined(__SSE2__)
+#include <kvt/draw/internal/vector_units.h>
+#if KVT_X86_VECTORS
 
 #include <emmintrin.h>
 

@@ -1,0 +1,242 @@
+// Portable forms of the translucent fill, for processors without a vector
+// unit: several channels share one machine word (SIMD within a register).
+// Each channel sits in a 16-bit lane of its own, and no step of the blend,
+// (old * a + c * (255 - a)) >> 8, ever exceeds 255 * 255, so a lane never
+// carries into its neighbour and every lane gets the bytes of the plain
+// definition.
+#include <cstring>
+#include <type_traits>
+
+#include <kvt/draw/internal/fill_alpha_paths.h>
+
+namespace kvt {
+
+namespace {
+
+// 64 bits where the processor has them; 32 where 64-bit arithmetic would
+// take two instructions a step.
+using Word = std::conditional_t<sizeof(void *) >= 8, uint64_t, uint32_t>;
+constexpr int kWordBytes = sizeof(Word);
+
+// A 16-bit value in every lane of a word.
+constexpr Word Lanes(Word value)
+{
+    Word word = 0;
+    for (int i = 0; i < kWordBytes / 2; ++i)
+        word |= value << (16 * i);
+    return word;
+}
+constexpr Word kLowBytes = Lanes(0x00FF);
+
+Word LoadWord(const Uint8 *p)
+{
+    Word w;
+    std::memcpy(&w, p, sizeof w);
+    return w;
+}
+
+void StoreWord(Uint8 *p, Word w) { std::memcpy(p, &w, sizeof w); }
+
+// The weights of the byte-by-byte fill (ByteLanes) as whole words. Every
+// channel byte has the same multiplier `a`. The spare byte of a 4-byte
+// pixel (multiplier 0, ending as its byte of Amask) is cleared first, so
+// that the same multiply leaves its lane holding just that byte, shifted
+// up, as its add. The pattern repeats every `period` words: one for 4-byte
+// pixels, three for 3-byte ones.
+struct ByteWords {
+    ByteWords(const ByteLanes &lanes, Word alpha) : a(alpha)
+    {
+        period = lanes.bytes == 4 ? 1 : 3;
+        for (int k = 0; k < period; ++k) {
+            addEven[k] = addOdd[k] = keep[k] = 0;
+            for (int i = 0; i < kWordBytes; ++i) {
+                const int j = (k * kWordBytes + i) % lanes.bytes;
+                if (lanes.mul[j] != 0)
+                    keep[k] |= Word(0xFF) << (8 * i);
+                const Word add = Word(lanes.add[j]) << (16 * (i / 2));
+                (i % 2 == 0 ? addEven[k] : addOdd[k]) |= add;
+            }
+        }
+        spare = keep[0] != ~Word(0);
+    }
+    // The even bytes blend in the low halves of the lanes and shift down;
+    // the odd ones blend in place, their results already in the high halves.
+    template <bool Spare>
+    Word Blend(Word w, int k) const
+    {
+        if (Spare)
+            w &= keep[k];
+        const Word even = ((((w & kLowBytes) * a) + addEven[k]) >> 8) & kLowBytes;
+        const Word odd = ((((w >> 8) & kLowBytes) * a) + addOdd[k]) & ~kLowBytes;
+        return even | odd;
+    }
+
+    Word a;
+    int period;
+    bool spare;
+    Word addEven[3], addOdd[3], keep[3];
+};
+
+// One row of n bytes from a pixel boundary, a whole period of words (or
+// two words when the period is one) per step, so that the processor has
+// independent work at every step. The last few bytes are blended in a
+// copy, so that nothing past the row is read or written.
+template <int Period, bool Spare>
+void BlendByteRow(Uint8 *p, int n, const ByteWords &words)
+{
+    constexpr int kWords = Period == 1 ? 2 : Period;
+    int j = 0;
+    for (; j + kWords * kWordBytes <= n; j += kWords * kWordBytes)
+        for (int i = 0; i < kWords; ++i) {
+            Uint8 *at = p + j + i * kWordBytes;
+            StoreWord(at, words.Blend<Spare>(LoadWord(at), i % Period));
+        }
+    int k = 0;
+    for (; j + kWordBytes <= n; j += kWordBytes, k = k + 1 == Period ? 0 : k + 1)
+        StoreWord(p + j, words.Blend<Spare>(LoadWord(p + j), k));
+    if (j < n) {
+        Uint8 copy[kWordBytes] = {};
+        std::memcpy(copy, p + j, size_t(n - j));
+        StoreWord(copy, words.Blend<Spare>(LoadWord(copy), k));
+        std::memcpy(p + j, copy, size_t(n - j));
+    }
+}
+
+template <int Period, bool Spare>
+void BlendByteRows(SDL_Surface *surface, const Area &area, int bytes, const ByteWords &words)
+{
+    const int rowBytes = area.Width() * bytes;
+    for (int y = area.y0; y < area.y1; ++y)
+        BlendByteRow<Period, Spare>(PixelAddress(surface, area.x0, y), rowBytes, words);
+}
+
+// One channel of 16-bit pixels, a pixel per lane: the field is widened as
+// the loaded SDL widens it (see Widening), blended, and narrowed again.
+// The place and width of the channel come from the format.
+struct Channel16Words {
+    Channel16Words(const ChannelForm &form, Uint32 product, Word alpha)
+        : field(Lanes(0xFFu >> form.loss)), widenMask(Lanes(0xFFFFu >> form.widening.shift)),
+          add(Lanes(product)), a(alpha), shift(form.shift), loss(form.loss),
+          widenMul(form.widening.mul), widenShift(form.widening.shift)
+    {
+    }
+    Word Blend(Word pixels) const
+    {
+        const Word f = (pixels >> shift) & field;
+        const Word wide = (f << loss) + (((f * widenMul) >> widenShift) & widenMask);
+        const Word mixed = ((wide * a + add) >> 8) & kLowBytes;
+        return ((mixed >> loss) & field) << shift;
+    }
+
+    Word field, widenMask, add, a;
+    int shift, loss;
+    Word widenMul;
+    int widenShift;
+};
+
+// The same for a channel whose place, width and widening are known when
+// compiling, as in the 5-6-5 and 5-5-5 formats of nearly every 16-bit
+// screen: every shift is then by a constant, which costs a processor far
+// less than a shift by a count held in a register.
+template <int Shift, int Loss, bool Scaled>
+struct FixedChannel16 {
+    static constexpr Widening kWiden = Scaled ? kScaledWidening[Loss] : kReplicatedWidening[Loss];
+
+    static bool Matches(const ChannelForm &form)
+    {
+        return form.shift == Shift && form.loss == Loss && form.widening.mul == kWiden.mul &&
+               form.widening.shift == kWiden.shift;
+    }
+    FixedChannel16(const ChannelForm &, Uint32 product, Word alpha)
+        : add(Lanes(product)), a(alpha)
+    {
+    }
+    Word Blend(Word pixels) const
+    {
+        constexpr Word field = Lanes(0xFFu >> Loss), widenMask = Lanes(0xFFFFu >> kWiden.shift);
+        const Word f = (pixels >> Shift) & field;
+        const Word wide = (f << Loss) + (((f * kWiden.mul) >> kWiden.shift) & widenMask);
+        const Word mixed = ((wide * a + add) >> 8) & kLowBytes;
+        return ((mixed >> Loss) & field) << Shift;
+    }
+
+    Word add, a;
+};
+
+template <class Red, class Green, class Blue>
+void FillPacked16(SDL_Surface *surface, const Area &area, KVT_RGBA colour, const ColourForm &form,
+                  const PixelAccess<2> &pixel)
+{
+    const FillBlend blend(colour);
+    const Red red(form.Red(), blend.red, blend.a);
+    const Green green(form.Green(), blend.green, blend.a);
+    const Blue blue(form.Blue(), blend.blue, blend.a);
+    // SDL_MapRGB ORs Amask in; the 16-bit store keeps its low half.
+    const Word amask = Lanes(surface->format->Amask & 0xFFFF);
+    constexpr int kPixels = kWordBytes / 2;
+    const int width = area.Width(), whole = width - width % kPixels;
+    for (int y = area.y0; y < area.y1; ++y) {
+        Uint8 *p = PixelAddress(surface, area.x0, y);
+        for (int x = 0; x < whole; x += kPixels, p += kWordBytes) {
+            const Word old = LoadWord(p);
+            StoreWord(p, red.Blend(old) | green.Blend(old) | blue.Blend(old) | amask);
+        }
+        BlendRun(pixel, p, width - whole, form, blend);
+    }
+}
+
+// 5-6-5 and 5-5-5 under either widening get their own loop; every other
+// packed format the general one.
+template <bool Scaled>
+bool FillFixed16(SDL_Surface *surface, const Area &area, KVT_RGBA colour, const ColourForm &form,
+                 const PixelAccess<2> &pixel)
+{
+    using Blue = FixedChannel16<0, 3, Scaled>;
+    if (FixedChannel16<11, 3, Scaled>::Matches(form.Red()) &&
+        FixedChannel16<5, 2, Scaled>::Matches(form.Green()) && Blue::Matches(form.Blue())) {
+        FillPacked16<FixedChannel16<11, 3, Scaled>, FixedChannel16<5, 2, Scaled>, Blue>(
+            surface, area, colour, form, pixel);
+        return true;
+    }
+    if (FixedChannel16<10, 3, Scaled>::Matches(form.Red()) &&
+        FixedChannel16<5, 3, Scaled>::Matches(form.Green()) && Blue::Matches(form.Blue())) {
+        FillPacked16<FixedChannel16<10, 3, Scaled>, FixedChannel16<5, 3, Scaled>, Blue>(
+            surface, area, colour, form, pixel);
+        return true;
+    }
+    return false;
+}
+
+} // namespace
+
+bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
+{
+    ByteLanes lanes;
+    if (!MakeByteLanes(surface->format, colour, &lanes))
+        return false;
+    const ByteWords words(lanes, colour.a);
+    if (words.period == 3)
+        BlendByteRows<3, false>(surface, area, lanes.bytes, words);
+    else if (words.spare)
+        BlendByteRows<1, true>(surface, area, lanes.bytes, words);
+    else
+        BlendByteRows<1, false>(surface, area, lanes.bytes, words);
+    return true;
+}
+
+bool FillAlphaPacked16(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
+{
+    if (surface->format->BytesPerPixel != 2)
+        return false;
+    const ColourForm form = ColourForm::Learned(surface->format);
+    if (!HasPacked16Channels(form))
+        return false;
+    return WithDepthOf<2>(surface->format, [&](auto pixel) {
+        if (!FillFixed16<false>(surface, area, colour, form, pixel) &&
+            !FillFixed16<true>(surface, area, colour, form, pixel))
+            FillPacked16<Channel16Words, Channel16Words, Channel16Words>(surface, area, colour,
+                                                                         form, pixel);
+    });
+}
+
+} // namespace kvt
