@@ -4,6 +4,8 @@ BUILD      ?= build
 SAN_BUILD  ?= build-sanitize
 BENCH_BUILD ?= build-bench
 ARMHF_BUILD ?= build-armhf
+AARCH64_BUILD ?= build-aarch64
+MIPSEL_BUILD ?= build-mipsel
 JOBS       ?= $(shell nproc)
 
 # libsdl1.2-compat puts sdl12-compat beside classic SDL 1.2, for the test
@@ -11,11 +13,12 @@ JOBS       ?= $(shell nproc)
 BASE_DEPS  = cmake make g++ pkg-config libsdl1.2-dev libgtest-dev libpng-dev xvfb xdotool \
              libsdl-image1.2-dev libsdl-ttf2.0-dev fonts-dejavu-core valgrind libsdl1.2-compat
 BENCH_DEPS = libbenchmark-dev libsdl-gfx1.2-dev python3
-# The cross compiler, the emulator, and what building SDL, zlib and libpng
-# from Debian's source packages takes.
-ARMHF_DEPS = g++-arm-linux-gnueabihf qemu-user-static dpkg-dev autoconf automake libtool
+# The target's cross compiler (CROSS_TRIPLET is set per cross target
+# below), the emulator, and what building SDL, zlib and libpng from Debian's
+# source packages takes.
+CROSS_DEPS = g++-$(CROSS_TRIPLET) qemu-user-static dpkg-dev autoconf automake libtool
 
-.PHONY: all deps build demo test test-compat sanitize test-armhf bench bench-compat clean
+.PHONY: all deps build demo test test-compat sanitize test-armhf test-aarch64 test-mipsel bench bench-compat clean
 
 all: build
 
@@ -37,6 +40,15 @@ demo: build
 	@echo "Pictures written (in $(CURDIR)/demo-out/):"
 	@grep '\.png$$' $(BUILD)/demo-output.txt | sed 's|^demo-out/|  |' || echo "  none: this run showed the window"
 	@echo "To run the live version in a window: make demo DEMO_ARGS=--window"
+
+# Draws the pictures that the README shows into docs/pictures/ (committed),
+# on classic SDL 1.2: the main screen at 640x480, and three handheld
+# pictures at 320x240 and 16 bits per pixel. The test demo_docs_pictures
+# fails once they no longer match what the demo draws; this renews them.
+.PHONY: docs-pictures
+docs-pictures: build
+	sh examples/demo/docs_pictures.sh write $(BUILD)/examples/demo/kvt-demo \
+	  $(BUILD)/tests/support/kvt-sdl-version docs/pictures
 
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
@@ -76,34 +88,54 @@ sanitize: deps
 	  UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	  ctest --output-on-failure -j $(JOBS) -LE nosanitize
 
-# The same suite cross-built for 32-bit ARM and run under qemu's user
-# emulation. SDL, zlib, libpng and GoogleTest for ARM are built once into
-# $(ARMHF_BUILD)/sysroot. Left out by label:
-#   window:    needs an X server, and the ARM SDL has only the dummy video driver
+# The same suite cross-built for the handhelds' processors and run under
+# qemu's user emulation: test-armhf for 32-bit ARM, test-aarch64 for 64-bit
+# ARM, test-mipsel for 32-bit MIPS little-endian. SDL, zlib, libpng and
+# GoogleTest for the target are built once into its build folder's sysroot/.
+# Left out by label, on all three:
+#   window:    needs an X server, and the cross-built SDL has only the dummy video driver
 #   packaging: installs the library and builds a consumer with the host's compiler
 #   valgrind:  valgrind runs host programs only; it cannot look inside the emulator
-#   bench:     timings under emulation say nothing about a real ARM processor
+#   bench:     timings under emulation say nothing about a real ARM or MIPS processor
 #   fuzz:      the fuzzers need the host compiler's fuzzing runtime
 #   compat:    compares the host's classic SDL with its sdl12-compat
-ARMHF_SKIP_LABELS = ^(window|packaging|valgrind|bench|fuzz|compat)$$
-test-armhf: deps
-	@scripts/install-deps.sh $(ARMHF_DEPS)
-	scripts/armhf-sysroot.sh $(ARMHF_BUILD)
-	cmake -S . -B $(ARMHF_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-	  -DCMAKE_TOOLCHAIN_FILE=$(CURDIR)/cmake/armhf-toolchain.cmake \
-	  -DKVT_ARMHF_SYSROOT=$(abspath $(ARMHF_BUILD))/sysroot >/dev/null
-	cmake --build $(ARMHF_BUILD) -j $(JOBS)
-	cd $(ARMHF_BUILD) && ctest --output-on-failure -j $(JOBS) -LE '$(ARMHF_SKIP_LABELS)'
+CROSS_SKIP_LABELS = ^(window|packaging|valgrind|bench|fuzz|compat)$$
+CROSS_TESTS = test-armhf test-aarch64 test-mipsel
+test-armhf:   CROSS_TRIPLET = arm-linux-gnueabihf
+test-armhf:   CROSS_BUILD   = $(ARMHF_BUILD)
+test-aarch64: CROSS_TRIPLET = aarch64-linux-gnu
+test-aarch64: CROSS_BUILD   = $(AARCH64_BUILD)
+test-mipsel:  CROSS_TRIPLET = mipsel-linux-gnu
+test-mipsel:  CROSS_BUILD   = $(MIPSEL_BUILD)
+$(CROSS_TESTS): test-%: deps
+	@scripts/install-deps.sh $(CROSS_DEPS)
+	scripts/cross-sysroot.sh $(CROSS_TRIPLET) $(CROSS_BUILD)
+	cmake -S . -B $(CROSS_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DCMAKE_TOOLCHAIN_FILE=$(CURDIR)/cmake/cross-toolchain.cmake \
+	  -DKVT_CROSS_TRIPLET=$(CROSS_TRIPLET) \
+	  -DKVT_CROSS_SYSROOT=$(abspath $(CROSS_BUILD))/sysroot >/dev/null
+	cmake --build $(CROSS_BUILD) -j $(JOBS)
+	cd $(CROSS_BUILD) && ctest --output-on-failure -j $(JOBS) -LE '$(CROSS_SKIP_LABELS)'
 
-# Runs every benchmark five times and prints the tracked speed ratios;
-# fails when one falls short of its target. BENCH_ARGS go to kvt-bench,
-# e.g. BENCH_ARGS=--benchmark_filter=fill.
+# Runs every benchmark five times and prints the tracked speed ratios,
+# twice: for the build with its vector paths, and for the portable build
+# (KVT_PORTABLE), which is what processors without a vector unit run. Fails
+# when a ratio falls short of its target in either. BENCH_ARGS go to
+# kvt-bench, e.g. BENCH_ARGS=--benchmark_filter=fill.
+BENCH_PORTABLE_BUILD ?= build-bench-portable
 bench: deps
 	@scripts/install-deps.sh $(BENCH_DEPS)
 	cmake -S . -B $(BENCH_BUILD) -DCMAKE_BUILD_TYPE=Release -DKVT_BUILD_BENCH=ON \
-	  -DKVT_BUILD_TESTS=OFF >/dev/null
-	cmake --build $(BENCH_BUILD) -j $(JOBS)
-	$(BENCH_ENV) python3 bench/ratios.py $(BENCH_BUILD)/bench/kvt-bench -- $(BENCH_ARGS)
+	  -DKVT_BUILD_TESTS=OFF -DKVT_PORTABLE=OFF >/dev/null
+	cmake --build $(BENCH_BUILD) -j $(JOBS) --target kvt-bench
+	cmake -S . -B $(BENCH_PORTABLE_BUILD) -DCMAKE_BUILD_TYPE=Release -DKVT_BUILD_BENCH=ON \
+	  -DKVT_BUILD_TESTS=OFF -DKVT_PORTABLE=ON >/dev/null
+	cmake --build $(BENCH_PORTABLE_BUILD) -j $(JOBS) --target kvt-bench
+	@status=0; \
+	$(BENCH_ENV) python3 bench/ratios.py $(BENCH_BUILD)/bench/kvt-bench -- $(BENCH_ARGS) || status=1; \
+	$(BENCH_ENV) python3 bench/ratios.py $(BENCH_PORTABLE_BUILD)/bench/kvt-bench -- $(BENCH_ARGS) \
+	  || status=1; \
+	exit $$status
 
 # The same benchmarks on sdl12-compat, whose blitters are the references
 # of some ratios; the table starts with the SDL version that was loaded.
@@ -140,4 +172,4 @@ lint: deps
 	scripts/lint.sh $(LINT_BUILD) $(JOBS)
 
 clean:
-	rm -rf $(BUILD) $(SAN_BUILD) $(BENCH_BUILD) $(ARMHF_BUILD) $(FUZZ_BUILD) $(LINT_BUILD)
+	rm -rf $(BUILD) $(SAN_BUILD) $(BENCH_BUILD) $(BENCH_PORTABLE_BUILD) $(ARMHF_BUILD) $(AARCH64_BUILD) $(MIPSEL_BUILD) $(FUZZ_BUILD) $(LINT_BUILD)

@@ -1,26 +1,41 @@
 #!/bin/sh
-# Builds the armhf libraries that the cross build links against into a
-# sysroot folder: SDL 1.2, zlib and libpng from Debian's own source
-# packages, and GoogleTest from the sources that libgtest-dev ships. Each
-# part is built once; a part already in the sysroot is left alone.
+# Builds the libraries that a cross build links against into a sysroot
+# folder: SDL 1.2, zlib and libpng from Debian's own source packages, and
+# GoogleTest from the sources that libgtest-dev ships, all with Debian's
+# cross compiler for TRIPLET. Each part is built once; a part already in
+# the sysroot is left alone.
 #
-#   scripts/armhf-sysroot.sh [BUILD_DIR]      (default: build-armhf)
+#   scripts/cross-sysroot.sh TRIPLET [BUILD_DIR]
+#
+# TRIPLET is one of
+#   arm-linux-gnueabihf   32-bit ARM, hard float    (default BUILD_DIR: build-armhf)
+#   aarch64-linux-gnu     64-bit ARM                (default BUILD_DIR: build-aarch64)
+#   mipsel-linux-gnu      32-bit MIPS little-endian (default BUILD_DIR: build-mipsel)
 #
 # Fills BUILD_DIR/sysroot; sources, build trees and logs go to
-# BUILD_DIR/deps. Needs g++-arm-linux-gnueabihf, dpkg-dev, autoconf,
-# automake, libtool, make, cmake and libgtest-dev (`make test-armhf`
-# installs them).
+# BUILD_DIR/deps. Needs g++-TRIPLET, dpkg-dev, autoconf, automake, libtool,
+# make, cmake and libgtest-dev (`make test-armhf`, `make test-aarch64` and
+# `make test-mipsel` install them).
 set -e
 
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
-OUT=${1:-$ROOT/build-armhf}
+HOST=$1
+# The short names match the build folders and cmake/cross-toolchain.cmake.
+case $HOST in
+    arm-linux-gnueabihf) NAME=armhf ;;
+    aarch64-linux-gnu) NAME=aarch64 ;;
+    mipsel-linux-gnu) NAME=mipsel ;;
+    *)
+        echo "usage: $0 arm-linux-gnueabihf|aarch64-linux-gnu|mipsel-linux-gnu [BUILD_DIR]" >&2
+        exit 2 ;;
+esac
+OUT=${2:-$ROOT/build-$NAME}
 mkdir -p "$OUT"
 OUT=$(cd "$OUT" && pwd)
 SYSROOT=$OUT/sysroot
 DEPS=$OUT/deps
 LOGS=$DEPS/logs
 APT_DIR=$DEPS/apt
-HOST=arm-linux-gnueabihf
 JOBS=$(nproc)
 
 # apt-get or apt-cache on a private state in the build tree: the source
@@ -69,7 +84,7 @@ derive_source_entries() {
     done > "$APT_DIR/sources.list.d/derived.sources"
     if ! grep -q . "$APT_DIR/sources.list.d/derived.list" \
             "$APT_DIR/sources.list.d/derived.sources"; then
-        echo "armhf-sysroot: no deb entry for $codename in /etc/apt to derive deb-src from" >&2
+        echo "cross-sysroot: no deb entry for $codename in /etc/apt to derive deb-src from" >&2
         return 1
     fi
 }
@@ -101,7 +116,7 @@ debian_source() {
             return 0
         fi
     done
-    echo "armhf-sysroot: no version of $source could be fetched" >&2
+    echo "cross-sysroot: no version of $source could be fetched" >&2
     return 1
 }
 
@@ -136,7 +151,7 @@ build_sdl() {
     # An empty pkg-config path keeps the host's .pc files out of the checks.
     mkdir -p "$DEPS/empty-pkgconfig"
     # shellcheck disable=SC2086
-    PKG_CONFIG_LIBDIR="$DEPS/empty-pkgconfig" ./configure --host=$HOST \
+    PKG_CONFIG_LIBDIR="$DEPS/empty-pkgconfig" ./configure --host="$HOST" \
         --prefix="$SYSROOT" $SDL_CONFIGURE_FLAGS
     make -j"$JOBS"
     make install
@@ -157,7 +172,7 @@ build_png() {
     debian_autoreconf
     PKG_CONFIG_LIBDIR="$SYSROOT/lib/pkgconfig" \
     CPPFLAGS="-I$SYSROOT/include" LDFLAGS="-L$SYSROOT/lib" \
-        ./configure --host=$HOST --prefix="$SYSROOT" --disable-static
+        ./configure --host="$HOST" --prefix="$SYSROOT" --disable-static
     make -j"$JOBS"
     make install
 }
@@ -165,8 +180,9 @@ build_png() {
 build_gtest() {
     rm -rf "$DEPS/gtest"
     cmake -S /usr/src/googletest -B "$DEPS/gtest" \
-        -DCMAKE_TOOLCHAIN_FILE="$ROOT/cmake/armhf-toolchain.cmake" \
-        -DKVT_ARMHF_SYSROOT="$SYSROOT" -DCMAKE_BUILD_TYPE=Release \
+        -DCMAKE_TOOLCHAIN_FILE="$ROOT/cmake/cross-toolchain.cmake" \
+        -DKVT_CROSS_TRIPLET="$HOST" -DKVT_CROSS_SYSROOT="$SYSROOT" \
+        -DCMAKE_BUILD_TYPE=Release \
         -DCMAKE_INSTALL_PREFIX="$SYSROOT"
     cmake --build "$DEPS/gtest" -j "$JOBS"
     cmake --install "$DEPS/gtest"
@@ -178,19 +194,28 @@ build_gtest() {
 build_once() {
     part=$1
     [ -f "$SYSROOT/.built-$part" ] && return 0
-    echo "armhf-sysroot: building $part for $HOST into $SYSROOT"
+    echo "cross-sysroot: building $part for $HOST into $SYSROOT"
     mkdir -p "$SYSROOT" "$LOGS"
     set +e
     ( set -e; "build_$part" ) > "$LOGS/$part.log" 2>&1
     status=$?
     set -e
     if [ $status -ne 0 ]; then
-        echo "armhf-sysroot: building $part failed; the end of $LOGS/$part.log:" >&2
+        echo "cross-sysroot: building $part failed; the end of $LOGS/$part.log:" >&2
         tail -n 30 "$LOGS/$part.log" >&2
         exit 1
     fi
     touch "$SYSROOT/.built-$part"
 }
+
+# A sysroot holds one target's libraries; the marks of another target's
+# parts must not pass for this one's.
+if [ -f "$SYSROOT/.triplet" ] && [ "$(cat "$SYSROOT/.triplet")" != "$HOST" ]; then
+    echo "cross-sysroot: $SYSROOT holds $(cat "$SYSROOT/.triplet") libraries, not $HOST ones" >&2
+    exit 1
+fi
+mkdir -p "$SYSROOT"
+echo "$HOST" > "$SYSROOT/.triplet"
 
 rm -f "$APT_DIR/fresh"
 build_once sdl
