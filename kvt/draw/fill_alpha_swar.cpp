@@ -7,6 +7,7 @@
 #include <cstring>
 #include <type_traits>
 
+#include <kvt/draw/internal/byte_channels.h>
 #include <kvt/draw/internal/fill_alpha_paths.h>
 
 namespace kvt {
@@ -37,24 +38,36 @@ Word LoadWord(const Uint8 *p)
 
 void StoreWord(Uint8 *p, Word w) { std::memcpy(p, &w, sizeof w); }
 
-// The weights of the byte-by-byte fill (ByteLanes) as whole words. Every
-// channel byte has the same multiplier `a`. The spare byte of a 4-byte
-// pixel (multiplier 0, ending as its byte of Amask) is cleared first, so
-// that the same multiply leaves its lane holding just that byte, shifted
-// up, as its add. The pattern repeats every `period` words: one for 4-byte
-// pixels, three for 3-byte ones.
+// The weights of the byte-by-byte fill (see ByteLanes) as whole words.
+// Every channel byte has the same multiplier `a`. The spare byte of a
+// 4-byte pixel (multiplier 0, ending as its byte of Amask) is cleared
+// first, so that the same multiply leaves its lane holding just its add,
+// that byte shifted up. The pattern repeats every `period` words: one for
+// 4-byte pixels, three for 3-byte ones.
 struct ByteWords {
-    ByteWords(const ByteLanes &lanes, Word alpha) : a(alpha)
+    ByteWords(const ByteChannels &layout, const FillBlend &blend) : a(blend.a)
     {
-        period = lanes.bytes == 4 ? 1 : 3;
-        for (int k = 0; k < period; ++k) {
+        const int bytes = layout.bytes;
+        // The add of each byte of a pixel: c * (255 - a) for a channel,
+        // nothing for the spare byte, which is cleared and gets its Amask
+        // byte back through its add alone.
+        Word pixelAdd[4] = {0, 0, 0, 0};
+        Word pixelKeep[4] = {0, 0, 0, 0};
+        pixelAdd[layout.red / 8] = blend.red;
+        pixelAdd[layout.green / 8] = blend.green;
+        pixelAdd[layout.blue / 8] = blend.blue;
+        for (int b = 0; b < bytes; ++b) {
+            const bool channel = b == layout.red / 8 || b == layout.green / 8 || b == layout.blue / 8;
+            pixelKeep[b] = channel ? 0xFF : 0;
+            if (!channel)
+                pixelAdd[b] = ((layout.amask >> (8 * b)) & 0xFF) << 8;
+        }
+        period = bytes == 4 ? 1 : 3;
+        for (int k = 0, b = 0; k < period; ++k) {
             addEven[k] = addOdd[k] = keep[k] = 0;
-            for (int i = 0; i < kWordBytes; ++i) {
-                const int j = (k * kWordBytes + i) % lanes.bytes;
-                if (lanes.mul[j] != 0)
-                    keep[k] |= Word(0xFF) << (8 * i);
-                const Word add = Word(lanes.add[j]) << (16 * (i / 2));
-                (i % 2 == 0 ? addEven[k] : addOdd[k]) |= add;
+            for (int i = 0; i < kWordBytes; ++i, b = b + 1 == bytes ? 0 : b + 1) {
+                keep[k] |= pixelKeep[b] << (8 * i);
+                (i % 2 == 0 ? addEven[k] : addOdd[k]) |= pixelAdd[b] << (16 * (i / 2));
             }
         }
         spare = keep[0] != ~Word(0);
@@ -84,9 +97,10 @@ struct ByteWords {
 template <int Period, bool Spare>
 void BlendByteRow(Uint8 *p, int n, const ByteWords &words)
 {
-    constexpr int kWords = Period == 1 ? 2 : Period;
+    constexpr int kWords = Period == 1 ? 4 : 2 * Period;
     int j = 0;
     for (; j + kWords * kWordBytes <= n; j += kWords * kWordBytes)
+#pragma GCC unroll 8
         for (int i = 0; i < kWords; ++i) {
             Uint8 *at = p + j + i * kWordBytes;
             StoreWord(at, words.Blend<Spare>(LoadWord(at), i % Period));
@@ -211,16 +225,16 @@ bool FillFixed16(SDL_Surface *surface, const Area &area, KVT_RGBA colour, const 
 
 bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    ByteLanes lanes;
-    if (!MakeByteLanes(surface->format, colour, &lanes))
+    ByteChannels layout;
+    if (!FindByteChannels(surface->format, &layout))
         return false;
-    const ByteWords words(lanes, colour.a);
+    const ByteWords words(layout, FillBlend(colour));
     if (words.period == 3)
-        BlendByteRows<3, false>(surface, area, lanes.bytes, words);
+        BlendByteRows<3, false>(surface, area, layout.bytes, words);
     else if (words.spare)
-        BlendByteRows<1, true>(surface, area, lanes.bytes, words);
+        BlendByteRows<1, true>(surface, area, layout.bytes, words);
     else
-        BlendByteRows<1, false>(surface, area, lanes.bytes, words);
+        BlendByteRows<1, false>(surface, area, layout.bytes, words);
     return true;
 }
 
