@@ -149,13 +149,11 @@ bool FillAlphaBytesAvx2(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 
 bool FillAlphaPacked16Avx2(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    if (!HasAvx2() || surface->format->BytesPerPixel != 2)
+    if (!HasAvx2())
         return false;
-    const ColourForm form = ColourForm::Learned(surface->format);
-    if (!HasPacked16Channels(form))
-        return false;
-    return WithDepthOf<2>(surface->format,
-                          [&](auto pixel) { FillPacked16(surface, area, colour, form, pixel); });
+    return WithPacked16(surface->format, [&](const ColourForm &form, auto pixel) {
+        FillPacked16(surface, area, colour, form, pixel);
+    });
 }
 
 } // namespace kvt

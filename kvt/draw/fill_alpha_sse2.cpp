@@ -76,13 +76,9 @@ bool FillAlphaBytesSse2(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 
 bool FillAlphaPacked16Sse2(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    if (surface->format->BytesPerPixel != 2)
-        return false;
-    const ColourForm form = ColourForm::Learned(surface->format);
-    if (!HasPacked16Channels(form))
-        return false;
-    return WithDepthOf<2>(surface->format,
-                          [&](auto pixel) { FillPacked16(surface, area, colour, form, pixel); });
+    return WithPacked16(surface->format, [&](const ColourForm &form, auto pixel) {
+        FillPacked16(surface, area, colour, form, pixel);
+    });
 }
 
 } // namespace kvt

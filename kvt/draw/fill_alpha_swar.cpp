@@ -240,12 +240,7 @@ bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 
 bool FillAlphaPacked16(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    if (surface->format->BytesPerPixel != 2)
-        return false;
-    const ColourForm form = ColourForm::Learned(surface->format);
-    if (!HasPacked16Channels(form))
-        return false;
-    return WithDepthOf<2>(surface->format, [&](auto pixel) {
+    return WithPacked16(surface->format, [&](const ColourForm &form, auto pixel) {
         if (!FillFixed16<false>(surface, area, colour, form, pixel) &&
             !FillFixed16<true>(surface, area, colour, form, pixel))
             FillPacked16<Channel16Words, Channel16Words, Channel16Words>(surface, area, colour,

@@ -135,13 +135,11 @@ bool FillAlphaBytesVector(SDL_Surface *surface, const Area &area, KVT_RGBA colou
 
 bool FillAlphaPacked16Vector(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    if (!VectorKernelsRun() || surface->format->BytesPerPixel != 2)
+    if (!VectorKernelsRun())
         return false;
-    const ColourForm form = ColourForm::Learned(surface->format);
-    if (!HasPacked16Channels(form))
-        return false;
-    return WithDepthOf<2>(surface->format,
-                          [&](auto pixel) { FillPacked16(surface, area, colour, form, pixel); });
+    return WithPacked16(surface->format, [&](const ColourForm &form, auto pixel) {
+        FillPacked16(surface, area, colour, form, pixel);
+    });
 }
 
 } // namespace kvt

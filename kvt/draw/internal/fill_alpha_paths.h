@@ -88,6 +88,20 @@ bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 // lane.
 bool HasPacked16Channels(const ColourForm &form);
 
+// The way into every packed 16-bit path: calls fill(form, pixel) with the
+// format's learned colour form and its 2-byte accessor when the format has
+// HasPacked16Channels, and answers whether it did.
+template <class Fill>
+bool WithPacked16(const SDL_PixelFormat *format, Fill &&fill)
+{
+    if (format->BytesPerPixel != 2)
+        return false;
+    const ColourForm form = ColourForm::Learned(format);
+    if (!HasPacked16Channels(form))
+        return false;
+    return WithDepthOf<2>(format, [&](auto pixel) { fill(form, pixel); });
+}
+
 // Formats with HasPacked16Channels, several pixels to a machine word.
 bool FillAlphaPacked16(SDL_Surface *surface, const Area &area, KVT_RGBA colour);
 
