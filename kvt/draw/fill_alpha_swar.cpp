@@ -102,7 +102,7 @@ void BlendByteRow(Uint8 *p, int n, const ByteWords &words)
     for (; j + kWords * kWordBytes <= n; j += kWords * kWordBytes)
 #pragma GCC unroll 8
         for (int i = 0; i < kWords; ++i) {
-            Uint8 *at = p + j + i * kWordBytes;
+            Uint8 *at = p + j + ptrdiff_t(i) * kWordBytes;
             StoreWord(at, words.Blend<Spare>(LoadWord(at), i % Period));
         }
     int k = 0;
