@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include <kvt/draw/shade.h>
+#include <kvt/ui/core/internal/background_tiles.h>
 
 namespace {
 
@@ -31,23 +32,6 @@ void SetMean(KVT_RGBA *middle, const KVT_RGBA &first, const KVT_RGBA &last)
     middle->r = Uint8((first.r + last.r) >> 1);
     middle->g = Uint8((first.g + last.g) >> 1);
     middle->b = Uint8((first.b + last.b) >> 1);
-}
-
-// One tile of the background grid at (tx, ty), cut to the area
-// [x0, x1) x [y0, y1) and copied to the same place on the surface.
-void BlitTilePart(SDL_Surface *tile, SDL_Surface *surface, int tx, int ty, int x0, int y0, int x1,
-                  int y1)
-{
-    int sx = std::max(x0 - tx, 0), sy = std::max(y0 - ty, 0);
-    SDL_Rect source;
-    source.x = Sint16(sx);
-    source.y = Sint16(sy);
-    source.w = Uint16(std::min(tile->w, x1 - tx) - sx);
-    source.h = Uint16(std::min(tile->h, y1 - ty) - sy);
-    SDL_Rect target;
-    target.x = Sint16(tx + sx);
-    target.y = Sint16(ty + sy);
-    SDL_UpperBlit(tile, &source, surface, &target);
 }
 
 } // namespace
@@ -96,14 +80,8 @@ void CUITheme::DrawBackground(SDL_Surface *surface, SDL_Rect *area) const
 {
     if (background == nullptr || background->w <= 0 || background->h <= 0)
         return;
-    const int tileW = background->w, tileH = background->h;
-    const int x0 = area->x, y0 = area->y;
-    const int x1 = x0 + area->w, y1 = y0 + area->h;
-    // Divisions truncate: left of the origin the first tile starts at 0,
-    // which leaves out only what lies off the surface anyway.
-    for (int tx = (x0 / tileW) * tileW; tx < x1; tx += tileW)
-        for (int ty = (y0 / tileH) * tileH; ty < y1; ty += tileH)
-            BlitTilePart(background, surface, tx, ty, x0, y0, x1, y1);
+    if (!kvt::TileByBands(background, surface, *area))
+        kvt::TileByTile(background, surface, *area);
 }
 
 void CUITheme::DrawFrame(SDL_Surface *surface, int x, int y, int w, int h, CUIFrame frame) const
