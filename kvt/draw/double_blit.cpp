@@ -1,10 +1,12 @@
 #include <kvt/draw/double_blit.h>
 
 #include <cstdint>
+#include <optional>
 
 #include <kvt/draw/depth.h>
 #include <kvt/draw/internal/byte_channels.h>
 #include <kvt/draw/internal/double_blit_paths.h>
+#include <kvt/draw/internal/palette_cache.h>
 
 namespace kvt {
 
@@ -76,6 +78,8 @@ public:
         : base_(static_cast<Uint8 *>(surface->pixels)), pitch_(surface->pitch), pixel_(pixel),
           form_(ColourForm::Learned(surface->format))
     {
+        if (surface->format->palette != nullptr)
+            palette_.emplace(surface->format);
     }
     Rgb Get(int x, int y) const
     {
@@ -83,7 +87,10 @@ public:
         form_.Split(pixel_.Read(At(x, y)), &c.r, &c.g, &c.b);
         return c;
     }
-    void Set(int x, int y, Rgb c) const { pixel_.Store(At(x, y), form_.Map(c.r, c.g, c.b)); }
+    void Set(int x, int y, Rgb c) const
+    {
+        pixel_.Store(At(x, y), palette_ ? palette_->Map(c.r, c.g, c.b) : form_.Map(c.r, c.g, c.b));
+    }
 
 private:
     Uint8 *At(int x, int y) const
@@ -95,6 +102,9 @@ private:
     int pitch_;
     Pixel pixel_;
     ColourForm form_;
+    // Means of palette colours are searched for in the palette; the
+    // answers are kept for the blit.
+    mutable std::optional<PaletteCache> palette_;
 };
 
 // Pixels of a surface with whole-byte channels, as values of the target's

@@ -6,6 +6,7 @@
 
 #include <kvt/draw/internal/byte_channels.h>
 #include <kvt/draw/internal/line_paths.h>
+#include <kvt/draw/internal/palette_cache.h>
 #include <kvt/draw/internal/span.h>
 
 namespace kvt {
@@ -87,6 +88,25 @@ private:
     Uint32 amask_;
 };
 
+// The antialiased line at 8 bits: each plot blends the line's colour over
+// a palette entry and searches the palette for the result, so the answers
+// are kept for the line.
+void BlendIndexedLine(SDL_Surface *surface, const Canvas &canvas, const LineWalk &walk,
+                      KVT_RGBA colour)
+{
+    const ColourForm form(surface->format);
+    PaletteCache cache(surface->format);
+    walk.Run([&](int x, int y, Uint8 a) {
+        Uint8 *p = canvas.At(x, y, 1);
+        if (p == nullptr)
+            return;
+        Uint8 r, g, b;
+        form.Split(*p, &r, &g, &b);
+        *p = cache.Map(BlendChannel(colour.r, r, a), BlendChannel(colour.g, g, a),
+                       BlendChannel(colour.b, b, a));
+    });
+}
+
 } // namespace
 } // namespace kvt
 
@@ -133,6 +153,10 @@ void KVT_Line(SDL_Surface *surface, int x1, int y1, int x2, int y2, KVT_RGBA col
                     pixel.Store(p, blend.Apply(pixel.Read(p), a));
             });
         });
+        return;
+    }
+    if (surface->format->palette != nullptr) {
+        kvt::BlendIndexedLine(surface, canvas, walk, colour);
         return;
     }
     const kvt::ColourForm form = kvt::ColourForm::Learned(surface->format);

@@ -5,6 +5,7 @@
 #include <kvt/draw/colour.h>
 #include <kvt/draw/depth.h>
 
+#include <kvt/draw/internal/palette_cache.h>
 #include <kvt/draw/internal/shade_paths.h>
 #include <kvt/draw/internal/span.h>
 
@@ -70,6 +71,9 @@ public:
     {
     }
 
+    // The value at pixel i, as Next would give it there.
+    Uint32 At(Uint32 i) const { return Uint32((scaled_ + step_ * i) >> 40); }
+
     // The current value; then moves on to the next pixel.
     Uint32 Next()
     {
@@ -114,6 +118,82 @@ void StoreRamp(const Pixel &pixel, const ShadeRun &run, Ramp ramp, const ColourF
     }
 }
 
+// At 8 bits a ramp's cost is SDL_MapRGB's search of the palette for the
+// nearest colour (least squared distance, the first index on ties). The
+// colours that such a search sends to one index form a convex set, cut
+// out by one plane per other palette entry, so when every corner of the
+// box spanned by two ramp colours maps to one index, so does every colour
+// in the box, and with it every ramp pixel between the two, as each
+// channel of the ramp runs monotonically. The ramp is split in halves
+// until its ends agree with their box's corners; only the pixels at the
+// cuts and the corners are searched, each colour once.
+class IndexedRamp {
+public:
+    IndexedRamp(const SDL_PixelFormat *format, const ShadeRun &run, const Ramp &ramp)
+        : cache_(format), run_(run), ramp_(ramp)
+    {
+    }
+
+    void Draw()
+    {
+        const int last = run_.count - 1;
+        const Uint8 first = Store(0);
+        Between(0, first, last, last == 0 ? first : Store(last));
+    }
+
+private:
+    struct Rgb {
+        Uint8 r, g, b;
+    };
+
+    Rgb ColourAt(int i) const
+    {
+        const Uint32 k = Uint32(i);
+        return {Uint8(ramp_.r.At(k)), Uint8(ramp_.g.At(k)), Uint8(ramp_.b.At(k))};
+    }
+    Uint8 Store(int i)
+    {
+        const Rgb c = ColourAt(i);
+        const Uint8 index = cache_.Map(c.r, c.g, c.b);
+        run_.start[ptrdiff_t(i) * run_.step] = index;
+        return index;
+    }
+    bool BoxMapsTo(Rgb a, Rgb b, Uint8 index)
+    {
+        for (int corner = 0; corner < 8; ++corner)
+            if (cache_.Map(corner & 1 ? b.r : a.r, corner & 2 ? b.g : a.g,
+                           corner & 4 ? b.b : a.b) != index)
+                return false;
+        return true;
+    }
+    // Pixels lo and hi hold their indices; paints the ones between.
+    void Between(int lo, Uint8 atLo, int hi, Uint8 atHi)
+    {
+        if (hi - lo < 2)
+            return;
+        // A box check costs up to six searches: short runs are searched
+        // pixel by pixel instead.
+        if (hi - lo > 8 && atLo == atHi && BoxMapsTo(ColourAt(lo), ColourAt(hi), atLo)) {
+            for (int i = lo + 1; i < hi; ++i)
+                run_.start[ptrdiff_t(i) * run_.step] = atLo;
+            return;
+        }
+        if (hi - lo <= 8) {
+            for (int i = lo + 1; i < hi; ++i)
+                Store(i);
+            return;
+        }
+        const int mid = lo + (hi - lo) / 2;
+        const Uint8 atMid = Store(mid);
+        Between(lo, atLo, mid, atMid);
+        Between(mid, atMid, hi, atHi);
+    }
+
+    PaletteCache cache_;
+    ShadeRun run_;
+    Ramp ramp_;
+};
+
 void RampFast(SDL_Surface *surface, const ShadeRun &run, KVT_RGBA first, KVT_RGBA last)
 {
     const ColourForm form(surface->format);
@@ -122,6 +202,10 @@ void RampFast(SDL_Surface *surface, const ShadeRun &run, KVT_RGBA first, KVT_RGB
     const Ramp ramp = {RampChannel(first.r, last.r, n, reciprocal),
                        RampChannel(first.g, last.g, n, reciprocal),
                        RampChannel(first.b, last.b, n, reciprocal)};
+    if (surface->format->palette != nullptr && surface->format->BytesPerPixel == 1) {
+        IndexedRamp(surface->format, run, ramp).Draw();
+        return;
+    }
     WithDepth(surface->format, [&](auto pixel) { StoreRamp(pixel, run, ramp, form); });
 }
 

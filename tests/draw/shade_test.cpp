@@ -1,4 +1,5 @@
 #include <random>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -102,14 +103,19 @@ TEST_P(ShadeTest, RectShadeDrawsFourRampsAndLeavesTheInside)
     }
 }
 
-// The fast ramp against the divided one, on random lines of every
-// sign and position, at widths where the ramp gets long.
-TEST_P(ShadeTest, SteppedRampMatchesDividedRamp)
+// Random lines of every sign and position, fast on one surface of the
+// pair and divided on the other, at sizes where the ramp gets long; with
+// a palette of its own when one is given.
+void CompareRamps(const FormatCase &format, const std::vector<SDL_Color> &palette)
 {
     const int sizes[][2] = {{23, 17}, {700, 3}, {3, 700}};
     for (const auto &size : sizes) {
-        kvt_test::SurfacePair pair(GetParam(), size[0], size[1], 3);
+        kvt_test::SurfacePair pair(format, size[0], size[1], 3);
         GuardedSurface &plain = pair.expected, &fast = pair.actual;
+        if (!palette.empty()) {
+            SDL_SetColors(plain, const_cast<SDL_Color *>(palette.data()), 0, int(palette.size()));
+            SDL_SetColors(fast, const_cast<SDL_Color *>(palette.data()), 0, int(palette.size()));
+        }
         std::mt19937 rng(3);
         int longest = std::max(size[0], size[1]);
         std::uniform_int_distribution<int> at(-40, longest + 10), len(-longest - 50, longest + 50);
@@ -126,6 +132,35 @@ TEST_P(ShadeTest, SteppedRampMatchesDividedRamp)
                 << "line " << i << " at " << x << "," << y << " length " << n;
         }
     }
+}
+
+TEST_P(ShadeTest, SteppedRampMatchesDividedRamp) { CompareRamps(GetParam(), {}); }
+
+// Palettes whose nearest colours are irregular: random entries, a few
+// colours repeated many times (ties go to the first), greys only, and
+// clusters close together.
+std::vector<std::vector<SDL_Color>> OddPalettes()
+{
+    std::mt19937 rng(11);
+    std::uniform_int_distribution<int> byte(0, 255), few(0, 5), near(-6, 6);
+    std::vector<std::vector<SDL_Color>> palettes(4, std::vector<SDL_Color>(256));
+    auto colour = [](int r, int g, int b) { return SDL_Color{Uint8(r), Uint8(g), Uint8(b), 0}; };
+    for (int i = 0; i < 256; ++i) {
+        palettes[0][i] = colour(byte(rng), byte(rng), byte(rng));
+        palettes[1][i] = colour(few(rng) * 51, few(rng) * 51, few(rng) * 51);
+        const int grey = byte(rng);
+        palettes[2][i] = colour(grey, grey, grey);
+        palettes[3][i] = colour(128 + near(rng) * (i % 7), 128 + near(rng), 128 + near(rng) * 3);
+    }
+    return palettes;
+}
+
+// The 8-bit ramp skips the palette search over runs it can prove lie in
+// one colour's reach; irregular palettes are where a wrong proof shows.
+TEST(IndexedRamp, MatchesDividedRampOnOddPalettes)
+{
+    for (const auto &palette : OddPalettes())
+        CompareRamps(kvt_test::AllFormats()[0], palette);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, ShadeTest, ::testing::ValuesIn(kvt_test::AllFormats()),

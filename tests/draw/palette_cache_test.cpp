@@ -1,0 +1,100 @@
+// The palette search of drawing calls against SDL_MapRGB of the loaded
+// SDL: irregular palettes, ties between repeated entries, short palettes,
+// and values of the fourth colour byte that an SDL might weigh.
+#include <algorithm>
+#include <cctype>
+#include <ostream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <kvt/draw/internal/palette_cache.h>
+
+namespace {
+
+struct PaletteCase {
+    const char *name;
+    int colours;    // entries in the palette
+    int distinct;   // how many different colours they repeat, 0 for all random
+    int unusedStep; // added to the fourth byte per entry: 0 keeps it equal
+    Uint8 unused;   // its value in entry 0
+    bool searchedByUs;
+};
+
+const PaletteCase kPalettes[] = {
+    {"random", 256, 0, 0, 0, true},
+    {"random, fourth byte 255", 256, 0, 0, 255, true},
+    {"random, fourth byte 77", 256, 0, 0, 77, true},
+    {"eight colours repeated", 256, 8, 0, 0, true},
+    {"five entries", 5, 0, 0, 0, true},
+    {"one entry", 1, 0, 0, 0, true},
+    {"fourth byte varies", 256, 0, 1, 0, false},
+    {"no entries", 0, 0, 0, 0, false},
+};
+
+void PrintTo(const PaletteCase &c, std::ostream *out) { *out << c.name; }
+
+// One colour more than the palette holds, for colours near none of them.
+std::vector<SDL_Color> MakeColours(const PaletteCase &c, std::mt19937 &rng)
+{
+    std::uniform_int_distribution<int> byte(0, 255);
+    std::vector<SDL_Color> colours(size_t(c.colours) + 1);
+    for (size_t i = 0; i < colours.size(); ++i) {
+        const size_t from = c.distinct > 0 ? i % size_t(c.distinct) : i;
+        colours[i] = from < i ? colours[from]
+                              : SDL_Color{Uint8(byte(rng)), Uint8(byte(rng)), Uint8(byte(rng)), 0};
+        colours[i].unused = Uint8(c.unused + c.unusedStep * int(i));
+    }
+    return colours;
+}
+
+class PaletteSearch : public ::testing::TestWithParam<PaletteCase> {};
+
+TEST_P(PaletteSearch, GivesWhatSdlMapRgbGives)
+{
+    const PaletteCase &c = GetParam();
+    std::mt19937 rng(29);
+    std::vector<SDL_Color> colours = MakeColours(c, rng);
+    // The palette of a real 8-bit surface, written in place, so that SDL
+    // reads exactly these bytes.
+    SDL_Surface *surface = SDL_CreateRGBSurface(0, 1, 1, 8, 0, 0, 0, 0);
+    ASSERT_NE(surface, nullptr);
+    SDL_Palette &palette = *surface->format->palette;
+    ASSERT_GE(palette.ncolors, c.colours);
+    const int ownCount = palette.ncolors;
+    std::copy(colours.begin(), colours.begin() + c.colours, palette.colors);
+    palette.ncolors = c.colours;
+
+    EXPECT_EQ(kvt::NearestColour(&palette).Usable(), c.searchedByUs);
+    kvt::PaletteCache cache(surface->format);
+    std::uniform_int_distribution<int> byte(0, 255);
+    for (int k = 0; k < 4000; ++k) {
+        // The palette's own colours, colours near them, and any colour.
+        const SDL_Color &near = colours[size_t(k) % colours.size()];
+        const int spread = k % 3 == 0 ? 0 : k % 3 == 1 ? 3 : 255;
+        auto pick = [&](Uint8 v) {
+            if (spread == 255)
+                return Uint8(byte(rng));
+            return Uint8(std::clamp(v + byte(rng) % (2 * spread + 1) - spread, 0, 255));
+        };
+        const Uint8 r = pick(near.r), g = pick(near.g), b = pick(near.b);
+        const Uint32 want = SDL_MapRGB(surface->format, r, g, b);
+        ASSERT_EQ(cache.Map(r, g, b), want) << int(r) << "," << int(g) << "," << int(b);
+        ASSERT_EQ(cache.Map(r, g, b), want) << "again, from the cache";
+    }
+    palette.ncolors = ownCount;
+    SDL_FreeSurface(surface);
+}
+
+INSTANTIATE_TEST_SUITE_P(Palettes, PaletteSearch, ::testing::ValuesIn(kPalettes),
+                         [](const auto &info) {
+                             std::string name;
+                             for (const char *p = info.param.name; *p != '\0'; ++p)
+                                 if (std::isalnum(Uint8(*p)))
+                                     name += *p;
+                             return name;
+                         });
+
+} // namespace
