@@ -1,7 +1,10 @@
 #include <kvt/draw/pixel.h>
 
+#include <cstring>
+
 #include <kvt/draw/internal/byte_channels.h>
 #include <kvt/draw/internal/fill_alpha_paths.h>
+#include <kvt/draw/internal/palette_cache.h>
 #include <kvt/draw/internal/vector_units.h>
 
 namespace kvt {
@@ -16,6 +19,20 @@ void FillWithForm(SDL_Surface *surface, const Area &area, KVT_RGBA colour, const
         for (int y = area.y0; y < area.y1; ++y)
             BlendRun(pixel, PixelAddress(surface, area.x0, y), area.Width(), form, blend);
     });
+}
+
+// Each byte of the area through the table; a copy of the table that
+// nothing else can reach keeps the stores from making every load of it
+// reread memory.
+void MapBytes(SDL_Surface *surface, const Area &area, const Uint8 *table)
+{
+    Uint8 local[256];
+    std::memcpy(local, table, sizeof local);
+    for (int y = area.y0; y < area.y1; ++y) {
+        Uint8 *p = PixelAddress(surface, area.x0, y);
+        for (int x = 0; x < area.Width(); ++x)
+            p[x] = local[p[x]];
+    }
 }
 
 } // namespace
@@ -70,24 +87,34 @@ bool FillAlphaChannels(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 
 bool FillAlphaIndexed(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
 {
-    return WithDepthOf<1>(surface->format, [&](auto pixel) {
+    return WithDepthOf<1>(surface->format, [&](auto) {
         const ColourForm form(surface->format);
         const FillBlend blend(colour);
-        // Filled on first use: a small fill pays only for the indices that
-        // it meets, never for the whole palette.
+        PaletteCache palette(surface->format);
+        // Each palette index becomes one other index. A small fill works
+        // out only the indices it meets; a large one all of them first,
+        // so that its loop is a bare look-up.
         Uint8 newIndex[256];
         bool known[256] = {};
+        auto work = [&](Uint8 old) {
+            Uint8 r, g, b;
+            form.Split(old, &r, &g, &b);
+            newIndex[old] = palette.Map(blend.Channel(r, blend.red), blend.Channel(g, blend.green),
+                                        blend.Channel(b, blend.blue));
+            known[old] = true;
+        };
+        if (int64_t(area.Width()) * (area.y1 - area.y0) >= 1024) {
+            for (int old = 0; old < 256; ++old)
+                work(Uint8(old));
+            MapBytes(surface, area, newIndex);
+            return;
+        }
         for (int y = area.y0; y < area.y1; ++y) {
             Uint8 *p = PixelAddress(surface, area.x0, y);
             for (int x = area.x0; x < area.x1; ++x, ++p) {
-                const Uint8 old = Uint8(pixel.Read(p));
-                if (!known[old]) {
-                    Uint8 blended = old;
-                    BlendRun(pixel, &blended, 1, form, blend);
-                    newIndex[old] = blended;
-                    known[old] = true;
-                }
-                pixel.Store(p, newIndex[old]);
+                if (!known[*p])
+                    work(*p);
+                *p = newIndex[*p];
             }
         }
     });

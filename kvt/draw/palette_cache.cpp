@@ -3,24 +3,127 @@
 #include <kvt/draw/internal/vector_units.h>
 
 namespace kvt {
+namespace {
 
 // Each key is the distance above the index, so the least key holds the
 // least distance and, among equals, the first index. Entries past the
 // palette repeat entry 0 and lose every tie to it. The loop has no
-// branch, so that it runs in vector lanes; on x86 the processor's widest
-// unit is chosen when the library loads.
-#if KVT_X86_VECTORS
-__attribute__((target_clones("avx2", "default")))
-#endif
-Uint8 NearestColour::Find(Uint8 r, Uint8 g, Uint8 b) const
+// branch, so that it runs in vector lanes.
+template <int Entries>
+inline Uint8 LeastKey(const Sint32 *red, const Sint32 *green, const Sint32 *blue, Uint8 r,
+                      Uint8 g, Uint8 b)
 {
-    Sint32 best = kKeyLimit;
-    for (int i = 0; i < kEntries; ++i) {
-        const Sint32 dr = red_[i] - r, dg = green_[i] - g, db = blue_[i] - b;
+    Sint32 best = 0x7FFFFFFF;
+    for (int i = 0; i < Entries; ++i) {
+        const Sint32 dr = red[i] - r, dg = green[i] - g, db = blue[i] - b;
         const Sint32 key = ((dr * dr + dg * dg + db * db) << 8) | i;
         best = key < best ? key : best;
     }
     return Uint8(best & 0xFF);
+}
+
+#if KVT_X86_VECTORS
+// The same loop eight lanes wide, where the processor has AVX2.
+__attribute__((target("avx2"))) Uint8 LeastKeyAvx2(const Sint32 *red, const Sint32 *green,
+                                                   const Sint32 *blue, Uint8 r, Uint8 g, Uint8 b)
+{
+    return LeastKey<256>(red, green, blue, r, g, b);
+}
+#endif
+
+// The length of the first run of entries from `stride` to `stride` whose
+// channels above the one counted stay as in entry 0.
+int RunLength(const SDL_Palette *palette, int stride, bool sameRed, bool sameGreen)
+{
+    const SDL_Color &first = palette->colors[0];
+    int count = 1;
+    for (int i = stride; i < palette->ncolors; i += stride, ++count) {
+        const SDL_Color &c = palette->colors[i];
+        if ((sameRed && c.r != first.r) || (sameGreen && c.g != first.g))
+            break;
+    }
+    return count;
+}
+
+} // namespace
+
+bool LevelGrid::Channel::Rising() const
+{
+    for (int d = 1; d < count; ++d)
+        if (level[d] <= level[d - 1])
+            return false;
+    return true;
+}
+
+// With rising levels, level d + 1 is nearer than level d exactly when the
+// value lies above their midpoint; at the midpoint the first one wins.
+void LevelGrid::Channel::Tabulate(int weight)
+{
+    int d = 0;
+    for (int v = 0; v < 256; ++v) {
+        while (d + 1 < count && 2 * v > level[d] + level[d + 1])
+            ++d;
+        part[v] = Uint8(d * weight);
+    }
+}
+
+bool LevelGrid::Build(const SDL_Palette *palette)
+{
+    const int n = palette->ncolors;
+    blue_.count = RunLength(palette, 1, true, true);
+    green_.count = RunLength(palette, blue_.count, true, false);
+    red_.count = n / (green_.count * blue_.count);
+    if (red_.count * green_.count * blue_.count != n)
+        return false;
+    const SDL_Color *c = palette->colors;
+    for (int r = 0; r < red_.count; ++r)
+        red_.level[r] = c[r * green_.count * blue_.count].r;
+    for (int g = 0; g < green_.count; ++g)
+        green_.level[g] = c[g * blue_.count].g;
+    for (int b = 0; b < blue_.count; ++b)
+        blue_.level[b] = c[b].b;
+    if (!red_.Rising() || !green_.Rising() || !blue_.Rising())
+        return false;
+    for (int r = 0; r < red_.count; ++r)
+        for (int g = 0; g < green_.count; ++g)
+            for (int b = 0; b < blue_.count; ++b, ++c)
+                if (c->r != red_.level[r] || c->g != green_.level[g] || c->b != blue_.level[b])
+                    return false;
+    red_.Tabulate(green_.count * blue_.count);
+    green_.Tabulate(blue_.count);
+    blue_.Tabulate(1);
+    return true;
+}
+
+NearestColour::NearestColour(const SDL_Palette *palette)
+    : usable_(palette != nullptr && palette->ncolors > 0 && palette->ncolors <= kEntries),
+      grid_(false), avx2_(false)
+{
+    for (int i = 0; usable_ && i < palette->ncolors; ++i)
+        usable_ = palette->colors[i].unused == palette->colors[0].unused;
+    if (!usable_)
+        return;
+    grid_ = levels_.Build(palette);
+    if (grid_)
+        return;
+    for (int i = 0; i < kEntries; ++i) {
+        const SDL_Color &c = palette->colors[i < palette->ncolors ? i : 0];
+        red_[i] = c.r;
+        green_[i] = c.g;
+        blue_[i] = c.b;
+    }
+#if KVT_X86_VECTORS
+    avx2_ = __builtin_cpu_supports("avx2");
+#endif
+}
+
+Uint8 NearestColour::Search(Uint8 r, Uint8 g, Uint8 b) const
+{
+#if KVT_X86_VECTORS
+    if (avx2_)
+        return LeastKeyAvx2(red_, green_, blue_, r, g, b);
+#endif
+    return LeastKey<kEntries>(red_, green_, blue_, r, g, b);
 }
 
 } // namespace kvt

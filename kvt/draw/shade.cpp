@@ -1,6 +1,7 @@
 #include <kvt/draw/shade.h>
 
 #include <cstdint>
+#include <optional>
 
 #include <kvt/draw/colour.h>
 #include <kvt/draw/depth.h>
@@ -129,13 +130,17 @@ void StoreRamp(const Pixel &pixel, const ShadeRun &run, Ramp ramp, const ColourF
 // cuts and the corners are searched, each colour once.
 class IndexedRamp {
 public:
-    IndexedRamp(const SDL_PixelFormat *format, const ShadeRun &run, const Ramp &ramp)
-        : cache_(format), run_(run), ramp_(ramp)
+    IndexedRamp(PaletteCache &cache, const ShadeRun &run, const Ramp &ramp)
+        : cache_(cache), run_(run), ramp_(ramp)
     {
     }
 
     void Draw()
     {
+        if (cache_.Search().Cheap()) {
+            StoreEach();
+            return;
+        }
         const int last = run_.count - 1;
         const Uint8 first = Store(0);
         Between(0, first, last, last == 0 ? first : Store(last));
@@ -145,6 +150,17 @@ private:
     struct Rgb {
         Uint8 r, g, b;
     };
+
+    // Where a search costs no more than remembering it, every pixel is
+    // searched.
+    void StoreEach()
+    {
+        const NearestColour &search = cache_.Search();
+        Ramp ramp = ramp_;
+        Uint8 *p = run_.start;
+        for (int i = 0; i < run_.count; ++i, p += run_.step)
+            *p = search.Find(Uint8(ramp.r.Next()), Uint8(ramp.g.Next()), Uint8(ramp.b.Next()));
+    }
 
     Rgb ColourAt(int i) const
     {
@@ -189,24 +205,53 @@ private:
         Between(mid, atMid, hi, atHi);
     }
 
-    PaletteCache cache_;
+    PaletteCache &cache_;
     ShadeRun run_;
     Ramp ramp_;
 };
 
-void RampFast(SDL_Surface *surface, const ShadeRun &run, KVT_RGBA first, KVT_RGBA last)
+bool IsIndexed(const SDL_PixelFormat *format)
 {
-    const ColourForm form(surface->format);
+    return format->palette != nullptr && format->BytesPerPixel == 1;
+}
+
+// `palette` serves the ramps of an 8-bit surface; null elsewhere, and for
+// a line drawn on its own, which makes its own.
+void RampFast(SDL_Surface *surface, const ShadeRun &run, KVT_RGBA first, KVT_RGBA last,
+              PaletteCache *palette)
+{
     const Uint32 n = Uint32(run.count);
     const uint64_t reciprocal = ((uint64_t(1) << 40) + n - 1) / n;
     const Ramp ramp = {RampChannel(first.r, last.r, n, reciprocal),
                        RampChannel(first.g, last.g, n, reciprocal),
                        RampChannel(first.b, last.b, n, reciprocal)};
-    if (surface->format->palette != nullptr && surface->format->BytesPerPixel == 1) {
-        IndexedRamp(surface->format, run, ramp).Draw();
+    if (IsIndexed(surface->format)) {
+        if (palette != nullptr) {
+            IndexedRamp(*palette, run, ramp).Draw();
+        } else {
+            PaletteCache own(surface->format);
+            IndexedRamp(own, run, ramp).Draw();
+        }
         return;
     }
+    const ColourForm form(surface->format);
     WithDepth(surface->format, [&](auto pixel) { StoreRamp(pixel, run, ramp, form); });
+}
+
+void HorzShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, KVT_RGBA first,
+               KVT_RGBA last, PaletteCache *palette)
+{
+    ShadeRun run;
+    if (ClipHorz(surface, x, y, length, &run))
+        RampFast(surface, run, first, last, palette);
+}
+
+void VertShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, KVT_RGBA first,
+               KVT_RGBA last, PaletteCache *palette)
+{
+    ShadeRun run;
+    if (ClipVert(surface, x, y, length, &run))
+        RampFast(surface, run, first, last, palette);
 }
 
 } // namespace
@@ -232,17 +277,13 @@ void VertLineShadePlain(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length,
 void KVT_HorzLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, KVT_RGBA first,
                        KVT_RGBA last)
 {
-    kvt::ShadeRun run;
-    if (kvt::ClipHorz(surface, x, y, length, &run))
-        kvt::RampFast(surface, run, first, last);
+    kvt::HorzShade(surface, x, y, length, first, last, nullptr);
 }
 
 void KVT_VertLineShade(SDL_Surface *surface, Sint16 x, Sint16 y, Sint16 length, KVT_RGBA first,
                        KVT_RGBA last)
 {
-    kvt::ShadeRun run;
-    if (kvt::ClipVert(surface, x, y, length, &run))
-        kvt::RampFast(surface, run, first, last);
+    kvt::VertShade(surface, x, y, length, first, last, nullptr);
 }
 
 void KVT_RectShade(SDL_Surface *surface, int x, int y, int width, int height, KVT_RGBA first,
@@ -250,8 +291,13 @@ void KVT_RectShade(SDL_Surface *surface, int x, int y, int width, int height, KV
 {
     Sint16 left = Sint16(x), top = Sint16(y), w = Sint16(width), h = Sint16(height);
     Sint16 right = Sint16(left + w - 1), bottom = Sint16(top + h - 1);
-    KVT_HorzLineShade(surface, left, top, w, first, middle);
-    KVT_HorzLineShade(surface, left, bottom, w, middle, last);
-    KVT_VertLineShade(surface, left, top, h, first, middle);
-    KVT_VertLineShade(surface, right, top, h, middle, last);
+    // On a palette the four sides share one search and its answers.
+    std::optional<kvt::PaletteCache> palette;
+    if (kvt::IsIndexed(surface->format))
+        palette.emplace(surface->format);
+    kvt::PaletteCache *shared = palette ? &*palette : nullptr;
+    kvt::HorzShade(surface, left, top, w, first, middle, shared);
+    kvt::HorzShade(surface, left, bottom, w, middle, last, shared);
+    kvt::VertShade(surface, left, top, h, first, middle, shared);
+    kvt::VertShade(surface, right, top, h, middle, last, shared);
 }

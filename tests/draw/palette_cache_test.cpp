@@ -21,24 +21,46 @@ struct PaletteCase {
     int unusedStep; // added to the fourth byte per entry: 0 keeps it equal
     Uint8 unused;   // its value in entry 0
     bool searchedByUs;
+    int grid[3];    // levels of red, green, blue for a grid palette, else 0
+    int levelStep;  // level d of a grid is 255 - d * step when negative
+    bool tabulated; // whether the grid is looked up per channel
 };
 
 const PaletteCase kPalettes[] = {
-    {"random", 256, 0, 0, 0, true},
-    {"random, fourth byte 255", 256, 0, 0, 255, true},
-    {"random, fourth byte 77", 256, 0, 0, 77, true},
-    {"eight colours repeated", 256, 8, 0, 0, true},
-    {"five entries", 5, 0, 0, 0, true},
-    {"one entry", 1, 0, 0, 0, true},
-    {"fourth byte varies", 256, 0, 1, 0, false},
-    {"no entries", 0, 0, 0, 0, false},
+    {"random", 256, 0, 0, 0, true, {}, 0, false},
+    {"random, fourth byte 255", 256, 0, 0, 255, true, {}, 0, false},
+    {"random, fourth byte 77", 256, 0, 0, 77, true, {}, 0, false},
+    {"eight colours repeated", 256, 8, 0, 0, true, {}, 0, false},
+    {"five entries", 5, 0, 0, 0, true, {}, 0, false},
+    {"one entry", 1, 0, 0, 0, true, {}, 0, true},
+    {"fourth byte varies", 256, 0, 1, 0, false, {}, 0, false},
+    {"no entries", 0, 0, 0, 0, false, {}, 0, false},
+    {"3-3-2 grid", 256, 0, 0, 0, true, {8, 8, 4}, 36, true},
+    {"cube of six", 216, 0, 0, 0, true, {6, 6, 6}, 51, true},
+    {"levels with midpoints", 64, 0, 0, 0, true, {4, 4, 4}, 10, true},
+    {"one channel", 256, 0, 0, 0, true, {256, 1, 1}, 1, true},
+    {"falling levels", 27, 0, 0, 0, true, {3, 3, 3}, -100, false},
 };
 
 void PrintTo(const PaletteCase &c, std::ostream *out) { *out << c.name; }
 
+Uint8 Level(const PaletteCase &c, int d)
+{
+    return Uint8(c.levelStep < 0 ? 255 + d * c.levelStep : d * c.levelStep);
+}
+
 // One colour more than the palette holds, for colours near none of them.
 std::vector<SDL_Color> MakeColours(const PaletteCase &c, std::mt19937 &rng)
 {
+    if (c.grid[0] > 0) {
+        std::vector<SDL_Color> grid;
+        for (int r = 0; r < c.grid[0]; ++r)
+            for (int g = 0; g < c.grid[1]; ++g)
+                for (int b = 0; b < c.grid[2]; ++b)
+                    grid.push_back({Level(c, r), Level(c, g), Level(c, b), c.unused});
+        grid.push_back({1, 2, 3, c.unused});
+        return grid;
+    }
     std::uniform_int_distribution<int> byte(0, 255);
     std::vector<SDL_Color> colours(size_t(c.colours) + 1);
     for (size_t i = 0; i < colours.size(); ++i) {
@@ -68,6 +90,7 @@ TEST_P(PaletteSearch, GivesWhatSdlMapRgbGives)
     palette.ncolors = c.colours;
 
     EXPECT_EQ(kvt::NearestColour(&palette).Usable(), c.searchedByUs);
+    EXPECT_EQ(kvt::NearestColour(&palette).Cheap(), c.tabulated);
     kvt::PaletteCache cache(surface->format);
     std::uniform_int_distribution<int> byte(0, 255);
     for (int k = 0; k < 4000; ++k) {

@@ -13,6 +13,35 @@
 
 namespace kvt {
 
+// Palettes that hold every combination of a few levels per channel, at
+// index (red * greens + green) * blues + blue, with the levels of each
+// channel rising, as 3-3-2 palettes and colour cubes do. Squared distance
+// adds up over the channels, so the nearest colour is the nearest level
+// of each channel, and the first index among equals is made of the first
+// level among equals of each. Build tabulates each channel's part of the
+// index for every value.
+class LevelGrid {
+public:
+    // False when the palette is not such a grid.
+    bool Build(const SDL_Palette *palette);
+    Uint8 Find(Uint8 r, Uint8 g, Uint8 b) const
+    {
+        return Uint8(red_.part[r] + green_.part[g] + blue_.part[b]);
+    }
+
+private:
+    struct Channel {
+        int count;
+        Uint8 level[256];
+        Uint8 part[256]; // the nearest level's number times the channel's weight
+
+        bool Rising() const;
+        void Tabulate(int weight);
+    };
+
+    Channel red_, green_, blue_;
+};
+
 // The search of both SDL 1.2 implementations: least squared distance
 // over r, g, b, the first index on ties. sdl12-compat adds the squared
 // distance of each entry's fourth byte (`unused`) from 255, which changes
@@ -23,30 +52,25 @@ public:
     explicit NearestColour(const SDL_Palette *palette);
 
     bool Usable() const { return usable_; }
+    // True when the palette is a LevelGrid, where a search is a few
+    // look-ups.
+    bool Cheap() const { return grid_; }
     // The index SDL_MapRGB gives; only while Usable().
-    Uint8 Find(Uint8 r, Uint8 g, Uint8 b) const;
+    Uint8 Find(Uint8 r, Uint8 g, Uint8 b) const
+    {
+        return grid_ ? levels_.Find(r, g, b) : Search(r, g, b);
+    }
 
 private:
+    Uint8 Search(Uint8 r, Uint8 g, Uint8 b) const;
+
     static constexpr int kEntries = 256;
-    static constexpr Sint32 kKeyLimit = 0x7FFFFFFF;
     bool usable_;
+    bool grid_;
+    bool avx2_;
+    LevelGrid levels_;
     Sint32 red_[kEntries], green_[kEntries], blue_[kEntries];
 };
-
-inline NearestColour::NearestColour(const SDL_Palette *palette)
-    : usable_(palette != nullptr && palette->ncolors > 0 && palette->ncolors <= kEntries)
-{
-    for (int i = 0; usable_ && i < palette->ncolors; ++i)
-        usable_ = palette->colors[i].unused == palette->colors[0].unused;
-    if (!usable_)
-        return;
-    for (int i = 0; i < kEntries; ++i) {
-        const SDL_Color &c = palette->colors[i < palette->ncolors ? i : 0];
-        red_[i] = c.r;
-        green_[i] = c.g;
-        blue_[i] = c.b;
-    }
-}
 
 class PaletteCache {
 public:
@@ -66,6 +90,7 @@ public:
         }
         return values_[slot];
     }
+    const NearestColour &Search() const { return search_; }
 
 private:
     static constexpr int kSlotBits = 7;

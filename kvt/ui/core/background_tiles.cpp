@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include <kvt/draw/depth.h>
+#include <kvt/draw/internal/copy_blit.h>
 
 namespace kvt {
 namespace {
@@ -23,31 +24,6 @@ void BlitTilePart(SDL_Surface *tile, SDL_Surface *surface, int tx, int ty, int x
     target.x = Sint16(tx + sx);
     target.y = Sint16(ty + sy);
     SDL_UpperBlit(tile, &source, surface, &target);
-}
-
-bool SamePalette(const SDL_Palette *a, const SDL_Palette *b)
-{
-    if (a == nullptr || b == nullptr)
-        return a == b;
-    return a->ncolors == b->ncolors &&
-           std::memcmp(a->colors, b->colors, sizeof(SDL_Color) * size_t(a->ncolors)) == 0;
-}
-
-bool SameFormat(const SDL_PixelFormat *a, const SDL_PixelFormat *b)
-{
-    return a->BitsPerPixel == b->BitsPerPixel && a->BytesPerPixel == b->BytesPerPixel &&
-           a->Rmask == b->Rmask && a->Gmask == b->Gmask && a->Bmask == b->Bmask &&
-           a->Amask == b->Amask && SamePalette(a->palette, b->palette);
-}
-
-// The blit is a plain copy of the tile's bytes: no colour key or alpha
-// makes it read the surface, and no conversion, which some SDLs do by
-// keeping bytes of the surface (the unused byte of 32-bit pixels). The
-// surface is written directly, so it must not need locking.
-bool BlitIsPlainCopy(const SDL_Surface *tile, const SDL_Surface *surface)
-{
-    return (tile->flags & (SDL_SRCCOLORKEY | SDL_SRCALPHA)) == 0 && tile != surface &&
-           !SDL_MUSTLOCK(surface) && SameFormat(tile->format, surface->format);
 }
 
 // Pixels [x, x + width) of the row hold their first `period` pixels

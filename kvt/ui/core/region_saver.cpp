@@ -1,5 +1,7 @@
 #include <kvt/ui/core/region_saver.h>
 
+#include <kvt/draw/internal/copy_blit.h>
+
 namespace {
 
 // A blit copies pixels exactly only when its source neither blends by
@@ -14,7 +16,7 @@ int CopyBlit(SDL_Surface *source, SDL_Rect *from, SDL_Surface *target, SDL_Rect 
         SDL_SetAlpha(source, 0, alpha);
     if (flags & SDL_SRCCOLORKEY)
         SDL_SetColorKey(source, 0, key);
-    int result = SDL_UpperBlit(source, from, target, to);
+    int result = kvt::Blit(source, from, target, to);
     if (flags & SDL_SRCCOLORKEY)
         SDL_SetColorKey(source, flags & (SDL_SRCCOLORKEY | SDL_RLEACCEL), key);
     if (flags & SDL_SRCALPHA)
@@ -60,5 +62,5 @@ bool KVT_RegionSaver::RestaurRegion(SDL_Surface *surface)
         return false;
     SDL_Rect source = {0, 0, Uint16(image->w), Uint16(image->h)};
     area = saved_;
-    return SDL_UpperBlit(image, &source, surface, &area) == 0;
+    return kvt::Blit(image, &source, surface, &area) == 0;
 }
