@@ -12,7 +12,7 @@ JOBS       ?= $(shell nproc)
 # that compares the demo's pictures on both and for test-compat.
 BASE_DEPS  = cmake make g++ pkg-config libsdl1.2-dev libgtest-dev libpng-dev xvfb xdotool \
              libsdl-image1.2-dev libsdl-ttf2.0-dev fonts-dejavu-core valgrind libsdl1.2-compat
-BENCH_DEPS = libbenchmark-dev libsdl-gfx1.2-dev python3
+BENCH_DEPS = libbenchmark-dev libsdl-gfx1.2-dev libguichan-dev python3
 # The target's cross compiler (CROSS_TRIPLET is set per cross target
 # below), the emulator, and what building SDL, zlib and libpng from Debian's
 # source packages takes.

@@ -31,7 +31,7 @@ const Depth *const *AllDepths()
 }
 
 // 3-3-2 levels: all 256 entries distinct, as a game palette would be.
-static void SetPalette(SDL_Surface *s)
+void SetFullPalette(SDL_Surface *s)
 {
     SDL_Color colours[256];
     for (int i = 0; i < 256; ++i)
@@ -45,7 +45,7 @@ Surface MakeSurface(const Depth &depth, int w, int h, unsigned seed)
     Surface s(SDL_CreateRGBSurface(SDL_SWSURFACE, w, h, depth.bits, depth.rmask, depth.gmask,
                                    depth.bmask, 0));
     if (depth.bits == 8)
-        SetPalette(s.get());
+        SetFullPalette(s.get());
     std::mt19937 rng(seed);
     Uint8 *bytes = static_cast<Uint8 *>(s->pixels);
     for (int i = 0; i < s->pitch * h; ++i)
@@ -68,6 +68,15 @@ void CopyPixels(const SDL_Surface *from, SDL_Surface *to)
 {
     std::memcpy(to->pixels, from->pixels, size_t(from->pitch) * from->h);
 }
+
+VideoMode::VideoMode(int width, int height, int bits)
+    : display_(SDL_SetVideoMode(width, height, bits, SDL_SWSURFACE))
+{
+    if (display_ != nullptr && bits == 8)
+        SetFullPalette(display_);
+}
+
+VideoMode::~VideoMode() { SDL_SetVideoMode(640, 480, 32, SDL_SWSURFACE); }
 
 std::string Name(const char *family, const char *variant, const char *depth, const char *size)
 {

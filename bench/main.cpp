@@ -24,6 +24,7 @@ int main(int argc, char **argv)
     kvt_bench::RegisterBlitBenchmarks();
     kvt_bench::RegisterLineBenchmarks();
     kvt_bench::RegisterSpriteBenchmarks();
+    kvt_bench::RegisterWidgetBenchmarks();
     // Classic SDL 1.2 or sdl12-compat: the references are SDL's own
     // blitters, so a result only means something with the SDL it ran on.
     const SDL_version *v = SDL_Linked_Version();

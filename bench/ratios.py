@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
 """Runs kvt-bench and prints the speed ratios that the project tracks.
 
-Each ratio is the time of a reference (the plain path, SDL, SDL_gfx or
-memcpy) divided by the time of kvt's own function, so above 1 means that
-kvt is faster. The benchmarks run several times, interleaved at random so
-that a noisy neighbour slows every benchmark alike; each repetition gives
-one ratio, and the table shows their median, minimum and maximum. A ratio
-whose median falls short of its target is marked MISS and makes the exit
-status 1.
+Each ratio is the time of a reference (the plain path, SDL, SDL_gfx,
+memcpy, Guichan's widgets, or kvt itself at another depth) divided by the
+time of kvt's own function, so above 1 means that kvt is faster. The
+benchmarks run several times, interleaved at random so that a noisy
+neighbour slows every benchmark alike; each repetition gives one ratio,
+and the table shows their median, minimum and maximum. A ratio whose
+median falls short of its target is marked MISS and makes the exit status
+1.
 
     bench/ratios.py [--repetitions N] [--min-time S] [BINARY] [-- BENCHMARK_ARGS...]
 """
@@ -49,6 +50,25 @@ TRACKED = [
     ("DisplayText vs bare blits", "text/kvt/32/40", "text/bare_blits/32/40", 1 / 1.1, 1 / 1.1),
     ("DisplayText vs TTF_RenderText", "text/kvt/32/40", "text/TTF_RenderText_Solid/32/40", None,
      None),
+    # One screen of widgets in kvt and in Guichan 0.8: a scripted session
+    # of events, each shown on the display, and one full draw.
+    ("widgets event 32bpp vs Guichan", "widgets_event/kvt/32/640x480",
+     "widgets_event/guichan/32/640x480", 10.0, 10.0),
+    ("widgets event 16bpp vs Guichan", "widgets_event/kvt/16/320x240",
+     "widgets_event/guichan/16/320x240", 10.0, 10.0),
+    ("widgets event 8bpp vs Guichan", "widgets_event/kvt/8/320x240",
+     "widgets_event/guichan/8/320x240", 10.0, 10.0),
+    ("widgets draw 32bpp vs Guichan", "widgets_draw/kvt/32/640x480",
+     "widgets_draw/guichan/32/640x480", 0.5, 0.5),
+    ("widgets draw 16bpp vs Guichan", "widgets_draw/kvt/16/320x240",
+     "widgets_draw/guichan/16/320x240", 0.5, 0.5),
+    ("widgets draw 8bpp vs Guichan", "widgets_draw/kvt/8/320x240",
+     "widgets_draw/guichan/8/320x240", 0.3, 0.3),
+    ("background 32bpp vs memcpy", "background/kvt/32/640x480", "background/memcpy/32/640x480",
+     0.3, 0.3),
+    # The tests' event storm on the palette against the same at 16 bits:
+    # at most twice as long.
+    ("storm 8bpp vs 16bpp", "storm/kvt/8/100000", "storm/kvt/16/100000", 0.5, 0.5),
 ]
 
 NS_PER_UNIT = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}

@@ -202,6 +202,8 @@ void TtfText(benchmark::State &state)
 
 } // namespace
 
+const std::string &FontFile() { return files.font; }
+
 void RegisterSpriteBenchmarks()
 {
     if (!WriteFiles()) {

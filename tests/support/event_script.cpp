@@ -1,5 +1,7 @@
 #include "support/event_script.h"
 
+#include <random>
+
 #include "support/events.h"
 
 namespace kvt_test {
@@ -71,6 +73,24 @@ std::vector<ScriptStep> DecodeEventScript(const Uint8 *bytes, size_t size, int w
         steps.push_back(StepFrom(step, width, height));
     }
     return steps;
+}
+
+std::vector<Uint8> StormBytes(int events, unsigned seed)
+{
+    std::mt19937 rng(seed);
+    std::vector<Uint8> bytes;
+    bytes.reserve(size_t(events) * kStepBytes);
+    while (bytes.size() < size_t(events) * kStepBytes) {
+        const Uint8 kind = Uint8(rng());
+        const bool typing = (kind & 7) == 4;
+        for (int n = int(1 + rng() % (typing ? 300 : 32)); n > 0; --n) {
+            bytes.push_back(Uint8((kind & 0x7f) | (rng() % 16 == 0 ? 0x80 : 0)));
+            for (size_t i = 1; i < kStepBytes; ++i)
+                bytes.push_back(Uint8(rng()));
+        }
+    }
+    bytes.resize(size_t(events) * kStepBytes);
+    return bytes;
 }
 
 } // namespace kvt_test

@@ -34,6 +34,14 @@ constexpr size_t kStepBytes = 6;
 std::vector<ScriptStep> DecodeEventScript(const Uint8 *bytes, size_t size, int width,
                                           int height);
 
+// `events` steps of random bytes from `seed`, in bursts of one kind, as
+// people act: a drag is many motions, typing many key presses, so that a
+// burst can carry a widget far (a text field to its limit, a list to its
+// end) before the next kind of event interrupts it. Typing bursts are the
+// longest: they must be able to fill a text field. The event storm test
+// and the benchmarks' storm play them.
+std::vector<Uint8> StormBytes(int events, unsigned seed);
+
 } // namespace kvt_test
 
 #endif

@@ -3,7 +3,6 @@
 // the surface, lose the focus or break the text field.
 #include <chrono>
 #include <cstdio>
-#include <random>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -19,29 +18,6 @@ using kvt_test::FormatCase;
 constexpr int kEvents = 100000;
 constexpr unsigned kSeed = 20261123;
 
-// Random steps in bursts of one kind, as people act: a drag is many
-// motions, typing many key presses, so that a burst can carry a widget
-// far (a text field to its limit, a list to its end) before the next
-// kind of event interrupts it. Typing bursts are the longest: they must
-// be able to fill the text field.
-std::vector<Uint8> StormBytes(int events)
-{
-    std::mt19937 rng(kSeed);
-    std::vector<Uint8> bytes;
-    bytes.reserve(size_t(events) * kvt_test::kStepBytes);
-    while (bytes.size() < size_t(events) * kvt_test::kStepBytes) {
-        const Uint8 kind = Uint8(rng());
-        const bool typing = (kind & 7) == 4;
-        for (int n = int(1 + rng() % (typing ? 300 : 32)); n > 0; --n) {
-            bytes.push_back(Uint8((kind & 0x7f) | (rng() % 16 == 0 ? 0x80 : 0)));
-            for (size_t i = 1; i < kvt_test::kStepBytes; ++i)
-                bytes.push_back(Uint8(rng()));
-        }
-    }
-    bytes.resize(size_t(events) * kvt_test::kStepBytes);
-    return bytes;
-}
-
 class EventStorm : public ::testing::TestWithParam<FormatCase> {};
 
 TEST_P(EventStorm, EveryWidgetSurvivesRandomEvents)
@@ -50,7 +26,7 @@ TEST_P(EventStorm, EveryWidgetSurvivesRandomEvents)
     ASSERT_TRUE(storm.ok());
     ASSERT_EQ(storm.Broken(), "") << "after the first drawing";
 
-    const std::vector<Uint8> bytes = StormBytes(kEvents);
+    const std::vector<Uint8> bytes = kvt_test::StormBytes(kEvents, kSeed);
     const auto steps = kvt_test::DecodeEventScript(bytes.data(), bytes.size(),
                                                    storm.kWidth, storm.kHeight);
     ASSERT_EQ(steps.size(), size_t(kEvents));
