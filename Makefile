@@ -171,5 +171,15 @@ lint: deps
 	cmake -S . -B $(LINT_BUILD) -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
 	scripts/lint.sh $(LINT_BUILD) $(JOBS)
 
+# Planted faults: each slip of faults/faults.txt is put, alone, into a copy
+# of the work tree (in a scratch folder under /tmp, kept between runs), and
+# the GoogleTest programs must notice it. Fails when one goes unnoticed.
+# FAULTS_ARGS go to scripts/faults.py, e.g. FAULTS_ARGS='--only sprite' or
+# FAULTS_ARGS=--keep-going. Slow and building all the time: not in .ci/run.
+.PHONY: faults
+faults: deps
+	@scripts/install-deps.sh python3
+	python3 scripts/faults.py --jobs $(JOBS) $(FAULTS_ARGS)
+
 clean:
 	rm -rf $(BUILD) $(SAN_BUILD) $(BENCH_BUILD) $(BENCH_PORTABLE_BUILD) $(ARMHF_BUILD) $(AARCH64_BUILD) $(MIPSEL_BUILD) $(FUZZ_BUILD) $(LINT_BUILD)

@@ -1,5 +1,7 @@
 #include <kvt/draw/internal/palette_cache.h>
 
+#include <cstring>
+
 #include <kvt/draw/internal/vector_units.h>
 
 namespace kvt {
@@ -56,14 +58,15 @@ bool LevelGrid::Channel::Rising() const
 }
 
 // With rising levels, level d + 1 is nearer than level d exactly when the
-// value lies above their midpoint; at the midpoint the first one wins.
+// value lies above their midpoint; at the midpoint the first one wins. So
+// level d takes the values from just above one midpoint to the next.
 void LevelGrid::Channel::Tabulate(int weight)
 {
-    int d = 0;
-    for (int v = 0; v < 256; ++v) {
-        while (d + 1 < count && 2 * v > level[d] + level[d + 1])
-            ++d;
-        part[v] = Uint8(d * weight);
+    int from = 0;
+    for (int d = 0; d < count; ++d) {
+        const int to = d + 1 < count ? (level[d] + level[d + 1]) / 2 + 1 : 256;
+        std::memset(part + from, d * weight, size_t(to - from));
+        from = to;
     }
 }
 
