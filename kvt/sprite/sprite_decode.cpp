@@ -1,8 +1,10 @@
 #include <algorithm>
+#include <optional>
 
 #include <kvt/draw/colour.h>
 #include <kvt/draw/depth.h>
 #include <kvt/draw/internal/byte_channels.h>
+#include <kvt/draw/internal/palette_cache.h>
 #include <kvt/draw/pixel.h>
 #include <kvt/sprite/internal/decode_paths.h>
 
@@ -11,25 +13,29 @@ namespace kvt {
 namespace {
 
 // Neighbouring pixels of a sprite mostly share their colour; remembering
-// the last one spares the mapping, which on a palette is a search.
+// the last one spares the mapping. On a palette the mapping is a search,
+// and the other colours met are kept too.
 class LastColour {
 public:
-    explicit LastColour(const ColourForm &form)
-        : form_(form), rgb_(0), value_(form.Map(0, 0, 0))
+    explicit LastColour(const ColourForm &form) : form_(form), rgb_(0), value_(form.Map(0, 0, 0))
     {
+        if (form.Format()->palette != nullptr)
+            palette_.emplace(form.Format());
     }
     Uint32 Map(Uint32 word)
     {
         const Uint32 rgb = word & 0xFFFFFFu;
         if (rgb != rgb_) {
             rgb_ = rgb;
-            value_ = form_.Map(RedOf(word), GreenOf(word), BlueOf(word));
+            const Uint8 r = RedOf(word), g = GreenOf(word), b = BlueOf(word);
+            value_ = palette_ ? palette_->Map(r, g, b) : form_.Map(r, g, b);
         }
         return value_;
     }
 
 private:
     const ColourForm &form_;
+    std::optional<PaletteCache> palette_;
     Uint32 rgb_;
     Uint32 value_;
 };
