@@ -79,10 +79,11 @@ bool LevelGrid::Build(const SDL_Palette *palette)
     if (red_.count * green_.count * blue_.count != n)
         return false;
     const SDL_Color *c = palette->colors;
+    const ptrdiff_t redStride = ptrdiff_t(green_.count) * blue_.count, greenStride = blue_.count;
     for (int r = 0; r < red_.count; ++r)
-        red_.level[r] = c[r * green_.count * blue_.count].r;
+        red_.level[r] = c[r * redStride].r;
     for (int g = 0; g < green_.count; ++g)
-        green_.level[g] = c[g * blue_.count].g;
+        green_.level[g] = c[g * greenStride].g;
     for (int b = 0; b < blue_.count; ++b)
         blue_.level[b] = c[b].b;
     if (!red_.Rising() || !green_.Rising() || !blue_.Rising())

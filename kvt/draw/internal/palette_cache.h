@@ -97,7 +97,7 @@ private:
     const SDL_PixelFormat *format_;
     NearestColour search_;
     Uint32 keys_[1 << kSlotBits];
-    Uint8 values_[1 << kSlotBits];
+    Uint8 values_[1 << kSlotBits] = {};
 };
 
 } // namespace kvt
