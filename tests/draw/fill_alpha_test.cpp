@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <kvt/draw/internal/byte_channels.h>
 #include <kvt/draw/internal/fill_alpha_paths.h>
 #include <kvt/draw/internal/vector_units.h>
 #include <kvt/draw/pixel.h>
@@ -74,6 +75,53 @@ const FillPath kPaths[] = {
     {"Packed16Avx2", kvt::FillAlphaPacked16Avx2, TwoBytesOnAvx2},
 #endif
 };
+
+// The byte paths take a format only when red, green and blue are distinct
+// whole bytes inside the pixel and Amask keeps clear of them.
+TEST(ByteChannels, AcceptsOnlyWholeChannelBytesInsideThePixel)
+{
+    struct Layout {
+        const char *name;
+        Uint8 bytes;
+        Uint32 r, g, b, a;
+        bool accepted;
+    };
+    const Layout layouts[] = {
+        {"RGB24", 3, 0xFF0000, 0xFF00, 0xFF, 0, true},
+        {"BGR24", 3, 0xFF, 0xFF00, 0xFF0000, 0, true},
+        {"ARGB32", 4, 0xFF0000, 0xFF00, 0xFF, 0xFF000000, true},
+        {"3 bytes, red in a fourth byte", 3, 0xFF000000, 0xFF00, 0xFF, 0, false},
+        {"3 bytes, blue in a fourth byte", 3, 0xFF0000, 0xFF00, 0xFF000000, 0, false},
+        {"red and green in one byte", 4, 0xFF0000, 0xFF0000, 0xFF, 0, false},
+        {"red of 7 bits", 4, 0x7F0000, 0xFF00, 0xFF, 0, false},
+        {"alpha over blue", 4, 0xFF0000, 0xFF00, 0xFF, 0xFF, false},
+        {"RGB565", 2, 0xF800, 0x07E0, 0x001F, 0, false},
+    };
+    const auto shiftOf = [](Uint32 mask) {
+        Uint8 shift = 0;
+        while (mask != 0 && (mask & 1) == 0)
+            mask >>= 1, ++shift;
+        return shift;
+    };
+    for (const Layout &l : layouts) {
+        SDL_PixelFormat f = {};
+        f.BitsPerPixel = Uint8(8 * l.bytes);
+        f.BytesPerPixel = l.bytes;
+        f.Rmask = l.r, f.Gmask = l.g, f.Bmask = l.b, f.Amask = l.a;
+        f.Rshift = shiftOf(l.r), f.Gshift = shiftOf(l.g), f.Bshift = shiftOf(l.b);
+        f.Ashift = shiftOf(l.a);
+        kvt::ByteChannels found = {};
+        ASSERT_EQ(l.accepted, kvt::FindByteChannels(&f, &found)) << l.name;
+        if (l.accepted) {
+            EXPECT_EQ(l.bytes, found.bytes) << l.name;
+            EXPECT_EQ(f.Rshift, found.red) << l.name;
+            EXPECT_EQ(f.Gshift, found.green) << l.name;
+            EXPECT_EQ(f.Bshift, found.blue) << l.name;
+            EXPECT_EQ(l.r | l.g | l.b, found.channels) << l.name;
+            EXPECT_EQ(l.a, found.amask) << l.name;
+        }
+    }
+}
 
 class FillAlphaTest : public ::testing::TestWithParam<FormatCase> {};
 

@@ -20,6 +20,7 @@ TEST(PointTest, FloatToIntTruncatesTowardsZero)
         // 3 x 3.66666651 is 10.9999995, which rounds to 11 in float.
         {3, std::nextafter(11.0f / 3.0f, 0.0f), 11},
         {2147483520.0f, 1, 2147483520}, {-2147483648.0f, 1, INT_MIN},
+        {2147483648.0f, 1, INT_MAX}, {1073741824.0f, 2, INT_MAX},
         {3e9f, 1, INT_MAX}, {-3e9f, 1, INT_MIN}, {1e30f, -1, INT_MIN}, {NAN, 1, 0},
     };
     for (const auto &c : cases) {

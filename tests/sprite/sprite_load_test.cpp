@@ -205,6 +205,8 @@ TEST_F(SpriteFile, DamagedRecordsFailAndLeaveTheSpriteEmpty)
         {"zero width with rows", 1, {Example(0, 0, 2)}, false},
         {"zero width and height", 1, {Example(0, 0, 0, {})}, true},
         {"zero height", 1, {Example(0, 3, 0, {})}, true},
+        {"zero height, least block size", 1, {Example(12, 3, 0, {})}, true},
+        {"zero height, block size one short", 1, {Example(11, 3, 0, {})}, false},
         {"width over 16384", 1, {Example(0, 16385, 2)}, false},
         {"height over 16384", 1, {Example(0, 3, 16385)}, false},
         {"a surface SDL refuses, after a good frame", 2,

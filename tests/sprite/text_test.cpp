@@ -50,6 +50,7 @@ struct TextCase {
     int x;
     std::vector<Uint32> drawn; // the frames that must show, in order
     int width;                 // worked out by hand from the glyph widths
+    Uint32 glyphs = 0;         // a font of the test font's first glyphs; 0: all
 };
 
 TEST_F(Text, GlyphsAdvanceByTheirFrameWidths)
@@ -64,13 +65,24 @@ TEST_F(Text, GlyphsAdvanceByTheirFrameWidths)
         // The fourth pen is 20, the surface's width: '"' would show at 19.
         {"crossing the right edge", "###\"", 5, {3, 3, 3}, 17},
         {"pen far left", "A", -2000000000, {33}, 5},
+        // The font ends at 'A', so 'B' is the first code without a glyph.
+        {"one past the last glyph", "A!B\"", 2, {33, 1, 2}, 11, 34},
     };
     for (const TextCase &c : cases) {
+        KVT_Sprite shortFont;
+        KVT_Sprite *used = &font;
+        if (c.glyphs > 0) {
+            std::vector<kvt_test::SpritePicture> glyphs = kvt_test::TestFontGlyphs();
+            glyphs.resize(c.glyphs);
+            ASSERT_TRUE(kvt_test::LoadSpritePictures(&shortFont, glyphs, want.get()->format));
+            used = &shortFont;
+        }
         Clear();
         DrawGlyphs(c.x, 3, c.drawn);
-        KVT_DisplayText(got, &font, c.x, 3, c.text);
+        KVT_DisplayText(got, used, c.x, 3, c.text);
         EXPECT_EQ("", kvt_test::FirstDifference(want, got)) << c.name;
-        EXPECT_EQ(c.width, KVT_GetTextWidth(&font, c.text)) << c.name;
+        EXPECT_EQ(c.width, KVT_GetTextWidth(used, c.text)) << c.name;
+        shortFont.FreeFrames();
     }
 }
 

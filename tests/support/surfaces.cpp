@@ -34,6 +34,8 @@ const std::vector<FormatCase> &MoreFormats()
 {
     static const std::vector<FormatCase> formats = {
         {"RGBA4444", 16, 0xF000, 0x0F00, 0x00F0, 0x000F},
+        {"ARGB4444", 16, 0x0F00, 0x00F0, 0x000F, 0xF000},
+        {"ARGB1555", 16, 0x7C00, 0x03E0, 0x001F, 0x8000},
         {"ARGB32", 32, 0x00FF0000, 0x0000FF00, 0x000000FF, 0xFF000000},
         {"RGB666in32", 32, 0x3F000, 0x00FC0, 0x0003F, 0},
     };

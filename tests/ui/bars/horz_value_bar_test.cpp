@@ -58,6 +58,7 @@ TEST(HorzValueBar, OnlyAPressNearTheEndOfTheFillGrabsAndDragsInsideTheTrack)
         {"drag to +150", 100, true, kTrackLeft + 150, kMidRow, 75},
         {"drag off the bar sideways", 100, true, kTrackLeft + 150, 60, 75},
         {"drag far right: d 199", 100, true, 900, kMidRow, 99},
+        {"drag below the right button's first column: d 199", 100, true, kX + 210, 60, 99},
         {"drag far left: d 1", 100, true, 1, kMidRow, 0},
         {"drag left of the surface: x is read unsigned, far right", 100, true, -30, kMidRow, 99},
         {"drag over the right end button: not heard", 100, true, kX + 215, kMidRow, 50},

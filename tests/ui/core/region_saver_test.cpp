@@ -30,26 +30,37 @@ class RegionSaverAtFormat : public ::testing::TestWithParam<FormatCase> {};
 
 // Save, scribble over everything, restore, twice: the saved part of the
 // rectangle comes back byte for byte both times, nothing else changes,
-// and the caller's surface keeps its blending settings. The restoring
-// blit cuts `area` to the part it put back, at every edge.
+// and the caller's surface keeps its blending settings (colour key and
+// surface alpha, when set, are skipped for the copy and then put back).
+// The restoring blit cuts `area` to the part it put back, at every edge.
 TEST_P(RegionSaverAtFormat, RestoreBringsBackExactlyTheSavedPixelsOnTheSurface)
 {
     const int w = 20, h = 14;
     struct Case {
         SDL_Rect saved, cut;
+        Uint32 settings = 0; // SDL_SRCCOLORKEY, SDL_SRCALPHA, set before the save
     };
     const Case cases[] = {
         {{3, 4, 10, 5}, {3, 4, 10, 5}},         {{-2, 3, 6, 2}, {0, 3, 4, 2}},
         {{5, -3, 4, 7}, {5, 0, 4, 4}},          {{w - 3, 2, 8, 6}, {w - 3, 2, 3, 6}},
         {{4, h - 2, 5, 6}, {4, h - 2, 5, 2}},   {{-2, -3, 6, 7}, {0, 0, 4, 4}},
         {{-1, -1, 30, 30}, {0, 0, Uint16(w), Uint16(h)}},
+        {{3, 4, 10, 5}, {3, 4, 10, 5}, SDL_SRCCOLORKEY},
+        {{3, 4, 10, 5}, {3, 4, 10, 5}, SDL_SRCALPHA},
+        {{-2, 3, 6, 2}, {0, 3, 4, 2}, SDL_SRCCOLORKEY | SDL_SRCALPHA},
     };
     std::mt19937 rng(7);
     for (const Case &c : cases) {
         const SDL_Rect &r = c.saved;
         GuardedSurface surface(GetParam(), w, h);
         surface.FillRandom(rng);
-        Uint32 flags = surface.get()->flags;
+        SDL_PixelFormat *f = surface.get()->format;
+        if (c.settings & SDL_SRCCOLORKEY)
+            SDL_SetColorKey(surface, SDL_SRCCOLORKEY, SDL_MapRGB(f, 255, 0, 255));
+        if (c.settings & SDL_SRCALPHA)
+            SDL_SetAlpha(surface, SDL_SRCALPHA, 100);
+        const Uint32 flags = surface.get()->flags, key = f->colorkey;
+        const Uint8 alpha = f->alpha;
         ExpectedPixels saved(surface);
         KVT_RegionSaver saver;
         ASSERT_TRUE(saver.SaveRegion(surface, r.x, r.y, r.w, r.h));
@@ -70,6 +81,8 @@ TEST_P(RegionSaverAtFormat, RestoreBringsBackExactlyTheSavedPixelsOnTheSurface)
                 << what << ": area after the restore";
         }
         EXPECT_EQ(surface.get()->flags, flags) << "saving changed the surface's flags";
+        EXPECT_EQ(f->colorkey, key) << "saving changed the colour key";
+        EXPECT_EQ(f->alpha, alpha) << "saving changed the surface alpha";
     }
 }
 

@@ -47,6 +47,8 @@ struct Bench {
 
 const std::vector<SDL_Rect> kRow = {{0, 0, 20, 20}, {30, 0, 20, 20}, {60, 10, 20, 20}};
 const std::vector<SDL_Rect> kLone = {{5, 5, 20, 20}};
+// Widgets 0 and 1 share the square from (10, 5) to (20, 20).
+const std::vector<SDL_Rect> kOverlap = {{0, 0, 20, 20}, {10, 5, 20, 20}, {60, 10, 20, 20}};
 
 // The log with each message checked to carry `surface`, then blanked so
 // that tables need not name it.
@@ -85,6 +87,10 @@ TEST(ScreenDispatch, EachEventSendsItsMessagesInOrderAndSetsClickAndFocus)
         {"press on the focused widget", {}, ButtonDownEvent(5, 5), {{0, DOWN, P(5, 5), 1}}, -1, 0},
         {"press on empty space", {}, ButtonDownEvent(90, 35), {}, -1, 0},
         {"press on a widget's first column", {}, ButtonDownEvent(30, 5), {}, -1, 0},
+        {"press where two widgets overlap goes to the earlier one", {ButtonDownEvent(65, 15)},
+         ButtonDownEvent(15, 10),
+         {{2, OUT, P(15, 10), 1}, {0, IN, P(15, 10), 1}, {0, DOWN, P(15, 10), 1}}, -1, 0,
+         SDLK_UNKNOWN, -1, 0, &kOverlap},
         {"release over the focused widget clicks", {ButtonDownEvent(35, 5)}, ButtonUpEvent(36, 6),
          {{1, UP, P(36, 6), 0}}, 1, 1},
         {"release over another widget", {ButtonDownEvent(35, 5)}, ButtonUpEvent(65, 15),

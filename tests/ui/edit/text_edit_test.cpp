@@ -101,10 +101,12 @@ const EditCase kEdits[] = {
     {"type inside", "abc", 1, false, kChar, 'X', true, "aXbc", 2, true},
     {"type at 0", "abc", 0, false, kChar, 'X', true, "Xabc", 1, true},
     {"type at end", "abc", 3, false, kChar, 'X', true, "abcX", 4, true},
+    {"type 32", "abc", 1, false, kChar, 32, true, "a bc", 2, true},
     {"type 127", "abc", 3, false, kChar, 127, true, "abc\x7f", 4, true},
     {"char 0", "abc", 1, false, kChar, 0, true, "abc", 1, false},
     {"char 9", "abc", 1, false, kChar, 9, true, "abc", 1, false},
     {"char 13", "abc", 1, false, kChar, 13, true, "abc", 1, false},
+    {"char 31", "abc", 1, false, kChar, 31, true, "abc", 1, false},
     // The screen sign-extends the byte; a field that read it as unsigned
     // (plain char on ARM) would let these in.
     {"char 128", "abc", 1, false, kChar, -128, true, "abc", 1, false},
