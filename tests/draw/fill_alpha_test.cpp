@@ -127,7 +127,9 @@ class FillAlphaTest : public ::testing::TestWithParam<FormatCase> {};
 
 // Random surfaces, colours, alphas and areas (unaligned starts, widths
 // that leave every kind of tail): each path must give the plain path's
-// bytes, and a path that declines a format must leave it untouched.
+// bytes, and a path that declines a format must leave it untouched. One
+// trial in ten covers at least 1024 pixels, where a fill may work out
+// its colours for the whole area before it starts.
 TEST_P(FillAlphaTest, EveryPathGivesThePlainBytes)
 {
     const int kAlphas[] = {0, 1, 127, 128, 254, 255};
@@ -135,12 +137,19 @@ TEST_P(FillAlphaTest, EveryPathGivesThePlainBytes)
     std::uniform_int_distribution<int> byte(0, 255);
     for (const FillPath &path : kPaths) {
         for (int trial = 0; trial < 300; ++trial) {
-            const int w = 1 + int(rng() % 80), h = 1 + int(rng() % 5), pad = int(rng() % 8);
+            const bool large = trial % 10 == 0;
+            const int w = large ? 48 + int(rng() % 60) : 1 + int(rng() % 80);
+            const int h = large ? 32 + int(rng() % 8) : 1 + int(rng() % 5), pad = int(rng() % 8);
             kvt_test::SurfacePair pair(GetParam(), w, h, unsigned(rng()), pad);
             GuardedSurface &want = pair.expected, &got = pair.actual;
-            // Rectangles that hang off any side or miss the surface too.
-            const int x = int(rng() % unsigned(w + 12)) - 10, y = int(rng() % unsigned(h + 5)) - 3;
-            const int rw = int(rng() % 75) - 2, rh = int(rng() % 9) - 1;
+            // Rectangles that hang off any side or miss the surface too;
+            // a large one cut by at most three pixels on each side.
+            int x = int(rng() % unsigned(w + 12)) - 10, y = int(rng() % unsigned(h + 5)) - 3;
+            int rw = int(rng() % 75) - 2, rh = int(rng() % 9) - 1;
+            if (large) {
+                x = int(rng() % 7) - 3, y = int(rng() % 7) - 3;
+                rw = w - int(rng() % 9), rh = h;
+            }
             kvt::Area area;
             const bool onSurface = kvt::ClipToSurface(want, x, y, rw, rh, &area);
             const int a = rng() % 2 ? kAlphas[rng() % 6] : byte(rng);

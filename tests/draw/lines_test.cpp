@@ -49,6 +49,7 @@ const ShapeCase kShapes[] = {
     {"vert y 5 length -3 leaves y 5", Vert, 3, 5, -3, 0, {Rect(3, 2, 1, 3)}},
     {"vert stops at the last row", Vert, 19, 17, 10, 0, {Rect(19, 17, 1, 3)}},
     {"vert at x = -1", Vert, -1, 2, 5, 0, {}},
+    {"vert at x = w", Vert, 20, 2, 5, 0, {}},
     {"line (0,0)-(5,0) leaves out x 5", KVT_Line, 0, 0, 5, 0, {Rect(0, 0, 5, 1)}},
     {"line (5,0)-(0,0) leaves out x 5", KVT_Line, 5, 0, 0, 0, {Rect(0, 0, 5, 1)}},
     {"line (3,6)-(3,1) leaves out y 6", KVT_Line, 3, 6, 3, 1, {Rect(3, 1, 1, 5)}},
@@ -87,7 +88,9 @@ TEST_P(LinesTest, SolidShapesPaintExactlyTheirPixels)
 // slope up to the truncation of the division: it draws exactly as the
 // piece between the cut points (worked out by hand) drawn on its own.
 // Plots that fall off the surface vanish: on the 11x4 surface a stray
-// write to row -1 or row 4 would land in the guard bytes.
+// write to row -1 or row 4 would land in the guard bytes. A line whose
+// cut end falls off the surface has no piece: it draws as (0,0)-(0,0),
+// which is nothing.
 TEST_P(LinesTest, ClippedLinesDrawAsTheirCutPiece)
 {
     const struct {
@@ -103,6 +106,7 @@ TEST_P(LinesTest, ClippedLinesDrawAsTheirCutPiece)
         {"rising across all four", 40, 20, {-10, 25, 50, -5}, {0, 19, 39, 0}},
         {"last companion on row -1", 11, 4, {0, 3, 10, 0}, {0, 3, 10, 0}},
         {"last companion on row h", 11, 4, {0, 0, 10, 3}, {0, 0, 10, 3}},
+        {"left, entering at row h draws nothing", 40, 20, {-60, -29, 2, 21}, {0, 0, 0, 0}},
     };
     for (const auto &c : cases) {
         kvt_test::SurfacePair pair(GetParam(), c.w, c.h, 6);

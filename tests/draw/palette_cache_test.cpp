@@ -24,6 +24,9 @@ struct PaletteCase {
     int grid[3];    // levels of red, green, blue for a grid palette, else 0
     int levelStep;  // level d of a grid is 255 - d * step when negative
     bool tabulated; // whether the grid is looked up per channel
+    int extras = 0; // greys after the grid
+    bool twinBlue = false; // blue levels 1 and 2 of the grid are equal
+    bool lastUnusedDiffers = false; // only the last entry's fourth byte differs
 };
 
 const PaletteCase kPalettes[] = {
@@ -34,10 +37,13 @@ const PaletteCase kPalettes[] = {
     {"five entries", 5, 0, 0, 0, true, {}, 0, false},
     {"one entry", 1, 0, 0, 0, true, {}, 0, true},
     {"fourth byte varies", 256, 0, 1, 0, false, {}, 0, false},
+    {"fourth byte of the last entry differs", 256, 0, 0, 0, false, {}, 0, false, 0, false, true},
     {"no entries", 0, 0, 0, 0, false, {}, 0, false},
     {"3-3-2 grid", 256, 0, 0, 0, true, {8, 8, 4}, 36, true},
     {"cube of six", 216, 0, 0, 0, true, {6, 6, 6}, 51, true},
+    {"cube of six and ten greys", 226, 0, 0, 0, true, {6, 6, 6}, 51, false, 10},
     {"levels with midpoints", 64, 0, 0, 0, true, {4, 4, 4}, 10, true},
+    {"a blue level twice", 64, 0, 0, 0, true, {4, 4, 4}, 80, false, 0, true},
     {"one channel", 256, 0, 0, 0, true, {256, 1, 1}, 1, true},
     {"falling levels", 27, 0, 0, 0, true, {3, 3, 3}, -100, false},
 };
@@ -49,6 +55,8 @@ Uint8 Level(const PaletteCase &c, int d)
     return Uint8(c.levelStep < 0 ? 255 + d * c.levelStep : d * c.levelStep);
 }
 
+Uint8 BlueLevel(const PaletteCase &c, int d) { return Level(c, c.twinBlue && d == 2 ? 1 : d); }
+
 // One colour more than the palette holds, for colours near none of them.
 std::vector<SDL_Color> MakeColours(const PaletteCase &c, std::mt19937 &rng)
 {
@@ -57,7 +65,11 @@ std::vector<SDL_Color> MakeColours(const PaletteCase &c, std::mt19937 &rng)
         for (int r = 0; r < c.grid[0]; ++r)
             for (int g = 0; g < c.grid[1]; ++g)
                 for (int b = 0; b < c.grid[2]; ++b)
-                    grid.push_back({Level(c, r), Level(c, g), Level(c, b), c.unused});
+                    grid.push_back({Level(c, r), Level(c, g), BlueLevel(c, b), c.unused});
+        for (int i = 0; i < c.extras; ++i) {
+            const Uint8 grey = Uint8(12 + 25 * i);
+            grid.push_back({grey, grey, grey, c.unused});
+        }
         grid.push_back({1, 2, 3, c.unused});
         return grid;
     }
@@ -69,6 +81,8 @@ std::vector<SDL_Color> MakeColours(const PaletteCase &c, std::mt19937 &rng)
                               : SDL_Color{Uint8(byte(rng)), Uint8(byte(rng)), Uint8(byte(rng)), 0};
         colours[i].unused = Uint8(c.unused + c.unusedStep * int(i));
     }
+    if (c.lastUnusedDiffers)
+        colours[size_t(c.colours) - 1].unused = Uint8(c.unused + 1);
     return colours;
 }
 
@@ -102,7 +116,10 @@ TEST_P(PaletteSearch, GivesWhatSdlMapRgbGives)
                 return Uint8(byte(rng));
             return Uint8(std::clamp(v + byte(rng) % (2 * spread + 1) - spread, 0, 255));
         };
-        const Uint8 r = pick(near.r), g = pick(near.g), b = pick(near.b);
+        // Black first: an answer that nothing has filled in yet must not
+        // pass for it.
+        const Uint8 r = k == 0 ? 0 : pick(near.r), g = k == 0 ? 0 : pick(near.g);
+        const Uint8 b = k == 0 ? 0 : pick(near.b);
         const Uint32 want = SDL_MapRGB(surface->format, r, g, b);
         ASSERT_EQ(cache.Map(r, g, b), want) << int(r) << "," << int(g) << "," << int(b);
         ASSERT_EQ(cache.Map(r, g, b), want) << "again, from the cache";

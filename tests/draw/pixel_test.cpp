@@ -84,6 +84,32 @@ TEST_P(PixelTest, AlphaWeighsTheOldPixel)
 INSTANTIATE_TEST_SUITE_P(AllFormats, PixelTest, ::testing::ValuesIn(kvt_test::AllFormats()),
                          [](const auto &info) { return kvt_test::FormatName(info.param); });
 
+// On a palette of fewer than 256 colours, an index past the last colour
+// reads as black; the indices below it read as their palette entries.
+TEST(ShortPalette, IndicesPastTheLastColourReadAsBlack)
+{
+    for (int colours : {1, 16, 200, 255}) {
+        GuardedSurface s(kvt_test::AllFormats()[0], 4, 1);
+        SDL_Palette &palette = *s.get()->format->palette;
+        ASSERT_GT(palette.ncolors, colours);
+        const int ownCount = palette.ncolors;
+        palette.ncolors = colours;
+        const int indices[] = {colours - 1, colours, colours + 1, 255};
+        for (int i = 0; i < 4; ++i)
+            static_cast<Uint8 *>(s.get()->pixels)[i] = Uint8(indices[i]);
+        for (int i = 0; i < 4; ++i) {
+            const SDL_Color black = {0, 0, 0, 0};
+            const SDL_Color &want = indices[i] < colours ? palette.colors[indices[i]] : black;
+            Uint8 r = 9, g = 9, b = 9;
+            KVT_GetPixel(s, Sint16(i), 0, &r, &g, &b);
+            EXPECT_TRUE(want.r == r && want.g == g && want.b == b)
+                << "index " << indices[i] << " of " << colours << " colours read as (" << int(r)
+                << ", " << int(g) << ", " << int(b) << ")";
+        }
+        palette.ncolors = ownCount;
+    }
+}
+
 // Worked values on surfaces with eight bits per channel.
 class EightBitChannels : public ::testing::TestWithParam<FormatCase> {};
 

@@ -94,8 +94,25 @@ TEST_P(SpriteLoadFormats, RunEdgeCasesDecodeByTheRowRules)
 // Random rows (short, overlong, with spare words, words running out) on
 // random surfaces, some smaller than the frame: the row-pointer decoder
 // must write exactly the bytes of the per-pixel one, and nothing outside.
+// First, one-row frames whose first opaque pixel is white or black, which
+// the decoder must map like any other colour before it has met one.
 TEST_P(SpriteLoadFormats, FastDecodeEqualsPlainDecode)
 {
+    const struct {
+        const char *first;
+        std::vector<Uint32> words;
+    } starts[] = {
+        {"white", {Uint32(-2), 3, 0xFFFFFF, 0xFFFFFF, 0x102030}},
+        {"black", {3, 0x000000, 0x000000, 0xFFFFFF, Uint32(-2)}},
+    };
+    for (const auto &start : starts) {
+        const kvt::RowSpan row = {0, start.words.size()};
+        const kvt::FrameRuns runs = {5, 1, start.words.data(), &row};
+        kvt_test::SurfacePair pair(GetParam(), 5, 1);
+        kvt::DecodeFramePlain(pair.expected, runs);
+        kvt::DecodeFrame(pair.actual, runs);
+        EXPECT_EQ("", pair.Difference()) << "frame whose first opaque pixel is " << start.first;
+    }
     std::mt19937 rng(77);
     for (int trial = 0; trial < 60; ++trial) {
         const int w = 1 + int(rng() % 40), h = 1 + int(rng() % 6);
