@@ -40,8 +40,8 @@ void StoreWord(Uint8 *p, Word w) { std::memcpy(p, &w, sizeof w); }
 
 // The weights of the byte-by-byte fill (see ByteLanes) as whole words.
 // Every channel byte has the same multiplier `a`. The spare byte of a
-// 4-byte pixel (multiplier 0, ending as its byte of Amask) is cleared
-// first, so that the same multiply leaves its lane holding just its add,
+// 4-byte pixel (multiplier 0, ending as its byte of Amask) is masked out
+// of its lane, so that the same multiply leaves its lane holding just its add,
 // that byte shifted up. The pattern repeats every `period` words: one for
 // 4-byte pixels, three for 3-byte ones.
 struct ByteWords {
@@ -49,7 +49,7 @@ struct ByteWords {
     {
         const int bytes = layout.bytes;
         // The add of each byte of a pixel: c * (255 - a) for a channel,
-        // nothing for the spare byte, which is cleared and gets its Amask
+        // nothing for the spare byte, which is masked out and gets its Amask
         // byte back through its add alone.
         Word pixelAdd[4] = {0, 0, 0, 0};
         Word pixelKeep[4] = {0, 0, 0, 0};
@@ -69,25 +69,28 @@ struct ByteWords {
                 keep[k] |= pixelKeep[b] << (8 * i);
                 (i % 2 == 0 ? addEven[k] : addOdd[k]) |= pixelAdd[b] << (16 * (i / 2));
             }
+            keepEven[k] = keep[k] & kLowBytes;
+            keepOdd[k] = (keep[k] >> 8) & kLowBytes;
         }
         spare = keep[0] != ~Word(0);
     }
     // The even bytes blend in the low halves of the lanes and shift down;
     // the odd ones blend in place, their results already in the high halves.
+    // The spare byte, if any, is masked out on the way into its lane.
     template <bool Spare>
     Word Blend(Word w, int k) const
     {
-        if (Spare)
-            w &= keep[k];
-        const Word even = ((((w & kLowBytes) * a) + addEven[k]) >> 8) & kLowBytes;
-        const Word odd = ((((w >> 8) & kLowBytes) * a) + addOdd[k]) & ~kLowBytes;
+        const Word evenIn = w & (Spare ? keepEven[k] : kLowBytes);
+        const Word oddIn = (w >> 8) & (Spare ? keepOdd[k] : kLowBytes);
+        const Word even = (((evenIn * a) + addEven[k]) >> 8) & kLowBytes;
+        const Word odd = ((oddIn * a) + addOdd[k]) & ~kLowBytes;
         return even | odd;
     }
 
     Word a;
     int period;
     bool spare;
-    Word addEven[3], addOdd[3], keep[3];
+    Word addEven[3], addOdd[3], keep[3], keepEven[3], keepOdd[3];
 };
 
 // One row of n bytes from a pixel boundary, a whole period of words (or
@@ -95,7 +98,7 @@ struct ByteWords {
 // independent work at every step. The last few bytes are blended in a
 // copy, so that nothing past the row is read or written.
 template <int Period, bool Spare>
-void BlendByteRow(Uint8 *p, int n, const ByteWords &words)
+[[gnu::always_inline]] inline void BlendByteRow(Uint8 *p, int n, const ByteWords &words)
 {
     constexpr int kWords = Period == 1 ? 4 : 2 * Period;
     int j = 0;
@@ -116,9 +119,12 @@ void BlendByteRow(Uint8 *p, int n, const ByteWords &words)
     }
 }
 
+// The rows work from a copy of the weights that no store can reach, so
+// that they stay in registers from row to row.
 template <int Period, bool Spare>
-void BlendByteRows(SDL_Surface *surface, const Area &area, int bytes, const ByteWords &words)
+void BlendByteRows(SDL_Surface *surface, const Area &area, int bytes, const ByteWords &weights)
 {
+    const ByteWords words = weights;
     const int rowBytes = area.Width() * bytes;
     for (int y = area.y0; y < area.y1; ++y)
         BlendByteRow<Period, Spare>(PixelAddress(surface, area.x0, y), rowBytes, words);
@@ -156,20 +162,11 @@ struct TopSpareWords {
     Uint8 spare;
 };
 
-// One row of such pixels. The first word is blended as any other, so that
-// nothing before the row is written, and the row's last spare byte is put
-// back after the shifted stores. Short rows are blended in place: measured
-// on x86 with the vector paths left out, below about 64 pixels the set-up
-// of the shifted stores costs more than they save, while a 640x480 fill
-// takes about a sixth less time.
-constexpr int kShortRowBytes = 256;
-
+// One row of such pixels, at least two words long. The first word is
+// blended as any other, so that nothing before the row is written, and
+// the row's last spare byte is put back after the shifted stores.
 void BlendTopSpareRow(Uint8 *p, int n, const ByteWords &words, const TopSpareWords &top)
 {
-    if (n < kShortRowBytes) {
-        BlendByteRow<1, true>(p, n, words);
-        return;
-    }
     StoreWord(p, words.Blend<true>(LoadWord(p), 0));
     int j = kWordBytes;
     for (; j + 4 * kWordBytes <= n; j += 4 * kWordBytes)
@@ -182,6 +179,18 @@ void BlendTopSpareRow(Uint8 *p, int n, const ByteWords &words, const TopSpareWor
         StoreWord(p + j - 1, top.Blend(LoadWord(p + j)));
     p[j - 1] = top.spare;
     BlendByteRow<1, true>(p + j, n - j, words);
+}
+
+// Short rows are blended in place: measured on x86 with the vector paths
+// left out, below about 64 pixels the set-up of the shifted stores costs
+// more than they save, while a 640x480 fill takes about a sixth less time.
+constexpr int kShortRowBytes = 256;
+
+void BlendTopSpareRows(SDL_Surface *surface, const Area &area, const ByteWords &words)
+{
+    const TopSpareWords top(words);
+    for (int y = area.y0; y < area.y1; ++y)
+        BlendTopSpareRow(PixelAddress(surface, area.x0, y), area.Width() * 4, words, top);
 }
 
 // One channel of 16-bit pixels, a pixel per lane: the field is widened as
@@ -291,11 +300,9 @@ bool FillAlphaBytes(SDL_Surface *surface, const Area &area, KVT_RGBA colour)
     const ByteWords words(layout, FillBlend(colour));
     if (words.period == 3)
         BlendByteRows<3, false>(surface, area, layout.bytes, words);
-    else if (TopSpareWords::Fits(layout)) {
-        const TopSpareWords top(words);
-        for (int y = area.y0; y < area.y1; ++y)
-            BlendTopSpareRow(PixelAddress(surface, area.x0, y), area.Width() * 4, words, top);
-    } else if (words.spare)
+    else if (TopSpareWords::Fits(layout) && area.Width() * 4 >= kShortRowBytes)
+        BlendTopSpareRows(surface, area, words);
+    else if (words.spare)
         BlendByteRows<1, true>(surface, area, layout.bytes, words);
     else
         BlendByteRows<1, false>(surface, area, layout.bytes, words);
