@@ -12,13 +12,25 @@
 namespace kvt {
 namespace {
 
-// A contiguous row of one value. Single bytes go to memset; wider pixels
-// use a fixed stride that the compiler can unroll or vectorise.
+// A contiguous row of one value. Single bytes go to memset; 2- and 4-byte
+// pixels go two or four to a 64-bit store of the pixel's own bytes
+// repeated, which a processor without a vector unit needs to keep up with
+// SDL_FillRect; 3-byte pixels one by one.
 template <class Pixel>
 void StoreRow(const Pixel &pixel, Uint8 *p, int count, Uint32 value)
 {
     if constexpr (Pixel::kBytes == 1) {
         std::memset(p, int(value & 0xFF), size_t(count));
+    } else if constexpr (8 % Pixel::kBytes == 0) {
+        constexpr int kPerWord = 8 / Pixel::kBytes;
+        Uint8 word[8];
+        for (int k = 0; k < kPerWord; ++k)
+            pixel.Store(word + k * Pixel::kBytes, value);
+        int i = 0;
+        for (; i + kPerWord <= count; i += kPerWord, p += 8)
+            std::memcpy(p, word, 8);
+        for (; i < count; ++i, p += Pixel::kBytes)
+            pixel.Store(p, value);
     } else {
         for (int i = 0; i < count; ++i, p += Pixel::kBytes)
             pixel.Store(p, value);
