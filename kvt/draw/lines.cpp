@@ -23,7 +23,7 @@ void StoreRow(const Pixel &pixel, Uint8 *p, int count, Uint32 value)
         std::memset(p, int(value & 0xFF), size_t(count));
     } else if constexpr (8 % Pixel::kBytes == 0) {
         constexpr int kPerWord = 8 / Pixel::kBytes;
-        Uint8 word[8];
+        Uint8 word[8] = {};
         for (int k = 0; k < kPerWord; ++k)
             pixel.Store(word + k * Pixel::kBytes, value);
         int i = 0;
