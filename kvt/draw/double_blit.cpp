@@ -69,16 +69,20 @@ private:
     SDL_Surface *surface_;
 };
 
+enum class Access { Read, ReadWrite };
+
 // Pixels of one surface whose depth is known: rows addressed directly,
 // colours split and mapped inline. Callers keep to the surface.
 template <class Pixel>
 class PixelsInline {
 public:
-    PixelsInline(SDL_Surface *surface, Pixel pixel)
+    PixelsInline(SDL_Surface *surface, Pixel pixel, Access access)
         : base_(static_cast<Uint8 *>(surface->pixels)), pitch_(surface->pitch), pixel_(pixel),
           form_(ColourForm::Learned(surface->format))
     {
-        if (surface->format->palette != nullptr)
+        // Only a surface written to maps colours; a source read through its
+        // palette needs no search.
+        if (access == Access::ReadWrite && surface->format->palette != nullptr)
             palette_.emplace(surface->format);
     }
     Rgb Get(int x, int y) const
@@ -240,9 +244,10 @@ void KVT_DoubleSizeBlit(SDL_Surface *source, SDL_Surface *target, int x, int y)
                 return;
             }
         }
-        const kvt::PixelsInline<TargetPixel> onto(target, targetPixel);
+        const kvt::PixelsInline<TargetPixel> onto(target, targetPixel, kvt::Access::ReadWrite);
         kvt::WithDepth(source->format, [&](auto sourcePixel) {
-            const kvt::PixelsInline<decltype(sourcePixel)> read(source, sourcePixel);
+            const kvt::PixelsInline<decltype(sourcePixel)> read(source, sourcePixel,
+                                                               kvt::Access::Read);
             kvt::EvenRows(read, onto, kvt::RgbColours(), x, y, w, h);
         });
         kvt::OddRows(onto, kvt::RgbColours(), x, y, w, h);
