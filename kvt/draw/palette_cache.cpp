@@ -47,6 +47,16 @@ int RunLength(const SDL_Palette *palette, int stride, bool sameRed, bool sameGre
     return count;
 }
 
+// A palette entry as one word, red to the fourth byte in memory order,
+// so that a whole entry compares at once.
+static_assert(sizeof(SDL_Color) == 4, "an SDL_Color is four bytes");
+inline Uint32 EntryWord(const SDL_Color &c)
+{
+    Uint32 word;
+    std::memcpy(&word, &c, sizeof word);
+    return word;
+}
+
 } // namespace
 
 bool LevelGrid::Channel::Rising() const
@@ -88,11 +98,18 @@ bool LevelGrid::Build(const SDL_Palette *palette)
         blue_.level[b] = c[b].b;
     if (!red_.Rising() || !green_.Rising() || !blue_.Rising())
         return false;
+    // Every entry as its levels make it, with entry 0's fourth byte.
+    Uint32 blueWord[256] = {};
+    for (int b = 0; b < blue_.count; ++b)
+        blueWord[b] = EntryWord(SDL_Color{0, 0, blue_.level[b], 0});
+    const Uint8 spare = c[0].unused;
     for (int r = 0; r < red_.count; ++r)
-        for (int g = 0; g < green_.count; ++g)
+        for (int g = 0; g < green_.count; ++g) {
+            const Uint32 redGreen = EntryWord(SDL_Color{red_.level[r], green_.level[g], 0, spare});
             for (int b = 0; b < blue_.count; ++b, ++c)
-                if (c->r != red_.level[r] || c->g != green_.level[g] || c->b != blue_.level[b])
+                if (EntryWord(*c) != (redGreen | blueWord[b]))
                     return false;
+        }
     red_.Tabulate(green_.count * blue_.count);
     green_.Tabulate(blue_.count);
     blue_.Tabulate(1);
@@ -103,15 +120,17 @@ NearestColour::NearestColour(const SDL_Palette *palette)
     : usable_(palette != nullptr && palette->ncolors > 0 && palette->ncolors <= kEntries),
       grid_(false), avx2_(false)
 {
-    for (int i = 0; usable_ && i < palette->ncolors; ++i)
-        usable_ = palette->colors[i].unused == palette->colors[0].unused;
     if (!usable_)
         return;
+    // A grid has the same fourth byte throughout; other palettes are
+    // checked for it as they are copied, so the palette is walked once.
     grid_ = levels_.Build(palette);
     if (grid_)
         return;
+    const Uint8 spare = palette->colors[0].unused;
     for (int i = 0; i < kEntries; ++i) {
         const SDL_Color &c = palette->colors[i < palette->ncolors ? i : 0];
+        usable_ = usable_ && c.unused == spare;
         red_[i] = c.r;
         green_[i] = c.g;
         blue_[i] = c.b;

@@ -40,6 +40,9 @@ const PaletteCase kPalettes[] = {
     {"fourth byte of the last entry differs", 256, 0, 0, 0, false, {}, 0, false, 0, false, true},
     {"no entries", 0, 0, 0, 0, false, {}, 0, false},
     {"3-3-2 grid", 256, 0, 0, 0, true, {8, 8, 4}, 36, true},
+    {"3-3-2 grid, fourth byte 255", 256, 0, 0, 255, true, {8, 8, 4}, 36, true},
+    {"3-3-2 grid, fourth byte of the last entry differs", 256, 0, 0, 0, false, {8, 8, 4}, 36, false,
+     0, false, true},
     {"cube of six", 216, 0, 0, 0, true, {6, 6, 6}, 51, true},
     {"cube of six and ten greys", 226, 0, 0, 0, true, {6, 6, 6}, 51, false, 10},
     {"levels with midpoints", 64, 0, 0, 0, true, {4, 4, 4}, 10, true},
@@ -70,6 +73,8 @@ std::vector<SDL_Color> MakeColours(const PaletteCase &c, std::mt19937 &rng)
             const Uint8 grey = Uint8(12 + 25 * i);
             grid.push_back({grey, grey, grey, c.unused});
         }
+        if (c.lastUnusedDiffers)
+            grid[size_t(c.colours) - 1].unused = Uint8(c.unused + 1);
         grid.push_back({1, 2, 3, c.unused});
         return grid;
     }

@@ -22,7 +22,8 @@ namespace kvt {
 // index for every value.
 class LevelGrid {
 public:
-    // False when the palette is not such a grid.
+    // False when the palette is not such a grid, or when the fourth byte
+    // differs between its entries.
     bool Build(const SDL_Palette *palette);
     Uint8 Find(Uint8 r, Uint8 g, Uint8 b) const
     {
