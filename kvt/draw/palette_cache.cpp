@@ -98,16 +98,15 @@ bool LevelGrid::Build(const SDL_Palette *palette)
         blue_.level[b] = c[b].b;
     if (!red_.Rising() || !green_.Rising() || !blue_.Rising())
         return false;
-    // Every entry as its levels make it, with entry 0's fourth byte.
-    Uint32 blueWord[256] = {};
-    for (int b = 0; b < blue_.count; ++b)
-        blueWord[b] = EntryWord(SDL_Color{0, 0, blue_.level[b], 0});
+    // Every entry as its levels make it, with entry 0's fourth byte; the
+    // blue levels are the blue bytes of the first entries.
+    const Uint32 blueBits = EntryWord(SDL_Color{0, 0, 0xFF, 0});
     const Uint8 spare = c[0].unused;
     for (int r = 0; r < red_.count; ++r)
         for (int g = 0; g < green_.count; ++g) {
             const Uint32 redGreen = EntryWord(SDL_Color{red_.level[r], green_.level[g], 0, spare});
             for (int b = 0; b < blue_.count; ++b, ++c)
-                if (EntryWord(*c) != (redGreen | blueWord[b]))
+                if (EntryWord(*c) != (redGreen | (EntryWord(palette->colors[b]) & blueBits)))
                     return false;
         }
     red_.Tabulate(green_.count * blue_.count);
